@@ -1,0 +1,52 @@
+# Which folder may include which. Fails with the file and the line that reaches where it must not.
+#
+#   forms > settings > output > options > engine > platform (interfaces)
+#   forms/main.cpp alone puts in platform/qt and platform/linux, which see the interfaces only
+
+set(engine platform)
+set(options engine ${engine})
+set(output options ${options})
+set(settings output ${output})
+set(forms settings ${settings})
+
+set(everywhere "platform/linux" "platform/qt" platform engine options output settings forms)
+set(faults "")
+
+# check(FOLDER FILE SEES...): every quoted include of FILE leads into FOLDER itself or one of SEES.
+function(check folder file)
+  file(STRINGS "${file}" lines REGEX "^#include ")
+  foreach(line IN LISTS lines)
+    if(line MATCHES "^#include \"(.*)/[^/]*\"")
+      set(target "${CMAKE_MATCH_1}")
+      if(NOT target STREQUAL folder AND NOT target IN_LIST ARGN)
+        set(faults ${faults} "${file}: ${line}" PARENT_SCOPE)
+        return()
+      endif()
+    elseif(line MATCHES "^#include <(Q[A-Za-z]+|qt[^>]*|Qt[^>]*)>" AND NOT folder MATCHES "^(forms|platform/qt)$")
+      set(faults ${faults} "${file}: ${line}" PARENT_SCOPE)
+    elseif(line MATCHES "^#include <[a-z0-9_/]+\\.h>" AND NOT folder MATCHES "^platform/(linux|windows)$")
+      set(faults ${faults} "${file}: ${line}" PARENT_SCOPE)
+    endif()
+  endforeach()
+endfunction()
+
+foreach(folder IN LISTS everywhere)
+  string(REPLACE "/" "_" key ${folder})
+  set(sees ${${key}})
+  if(folder MATCHES "^platform/")
+    set(sees platform)
+  endif()
+  file(GLOB files "${SOURCE}/${folder}/*.cpp" "${SOURCE}/${folder}/*.h")
+  foreach(file IN LISTS files)
+    if(file MATCHES "forms/main.cpp$")
+      check(${folder} "${file}" ${sees} platform/qt platform/linux)
+    else()
+      check(${folder} "${file}" ${sees})
+    endif()
+  endforeach()
+endforeach()
+
+if(faults)
+  list(JOIN faults "\n  " text)
+  message(FATAL_ERROR "Includes against the arrows of docs/architecture.md:\n  ${text}")
+endif()

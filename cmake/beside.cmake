@@ -1,0 +1,10 @@
+# Puts what must lie beside the program into APP. The set-up of the last run, once there, is the user's own.
+file(MAKE_DIRECTORY "${APP}")
+foreach(name randomization.htm orvane.svg)
+  if(EXISTS "${SOURCE}/${name}")
+    configure_file("${SOURCE}/${name}" "${APP}/${name}" COPYONLY)
+  endif()
+endforeach()
+if(NOT EXISTS "${APP}/saved.stg")
+  file(COPY "${SOURCE}/saved.stg" DESTINATION "${APP}")
+endif()

@@ -1,0 +1,61 @@
+# How libraries, the program and tests of this tree are built.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+set(CMAKE_CXX_FLAGS_DEBUG "-O1 -g")
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+add_library(orvane_warnings INTERFACE)
+target_compile_options(orvane_warnings INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
+
+add_library(orvane_sanitizers INTERFACE)
+if(ORVANE_SANITIZE)
+  set(flags -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(orvane_sanitizers INTERFACE ${flags})
+  target_link_options(orvane_sanitizers INTERFACE ${flags})
+endif()
+
+# orvane_library(FOLDER [LINKS lib...]): the static library of a folder.
+# The library of platform/qt is named platform_qt. Qt's generators run where Qt is linked.
+function(orvane_library folder)
+  cmake_parse_arguments(arg "" "" "LINKS" ${ARGN})
+  string(REPLACE "/" "_" name ${folder})
+  file(GLOB sources CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${folder}/*.cpp" "${CMAKE_SOURCE_DIR}/${folder}/*.h"
+       "${CMAKE_SOURCE_DIR}/${folder}/*.ui")
+  list(REMOVE_ITEM sources "${CMAKE_SOURCE_DIR}/forms/main.cpp")
+  if(NOT sources)
+    add_library(${name} INTERFACE)
+    return()
+  endif()
+  add_library(${name} STATIC ${sources})
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}")
+  target_link_libraries(${name} PUBLIC ${arg_LINKS} orvane_sanitizers PRIVATE orvane_warnings)
+  if("Qt6::Widgets" IN_LIST arg_LINKS)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
+    target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS)
+  endif()
+endfunction()
+
+# The program, with all that must lie beside it, in the folder app of the build.
+function(orvane_program)
+  set(app "${CMAKE_BINARY_DIR}/app")
+  add_executable(orvane "${CMAKE_SOURCE_DIR}/forms/main.cpp")
+  set_target_properties(orvane PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${app}")
+  target_link_libraries(orvane PRIVATE forms platform_qt platform_linux orvane_warnings)
+  add_custom_target(beside ALL
+    COMMAND ${CMAKE_COMMAND} -DSOURCE=${CMAKE_SOURCE_DIR}/assets -DAPP=${app}
+            -P ${CMAKE_SOURCE_DIR}/cmake/beside.cmake
+    COMMENT "Files beside the program")
+  add_dependencies(orvane beside)
+endfunction()
+
+function(orvane_check_arrows)
+  add_custom_target(arrows ALL
+    COMMAND ${CMAKE_COMMAND} -DSOURCE=${CMAKE_SOURCE_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/arrows.cmake
+    COMMENT "Arrows between the folders")
+endfunction()

@@ -1,0 +1,26 @@
+# Sourced by the commands of the top folder: installs Debian packages that are missing.
+
+# need PACKAGE...: installs those of the packages that are not there. Quick when all are.
+need() {
+    local package missing=()
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    local root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "These packages are missing; please install them as root: ${missing[*]}" >&2
+            exit 1
+        }
+        root=(sudo)
+    fi
+    echo "Installing ${missing[*]}"
+    "${root[@]}" apt-get -q update
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
+}
+
+# To build the program, to run it, and to drive it on a display of its own.
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libglib2.0-dev)
+run_packages=(shared-mime-info fonts-dejavu-core)
+display_packages=(xvfb openbox xdotool xclip imagemagick x11-utils)

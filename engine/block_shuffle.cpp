@@ -1,0 +1,53 @@
+#include "engine/block_shuffle.h"
+
+#include "engine/numbers.h"
+#include "engine/random_draws.h"
+#include "engine/vector_kernels.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+/// 10 N N in 32 bits, or an Overflow failure.
+std::int32_t CountExchanges(std::size_t size) {
+    constexpr auto most = std::numeric_limits<std::int32_t>::max();
+    const auto N = static_cast<std::int32_t>(std::min<std::size_t>(size, most));
+    return Multiply32(Multiply32(N, 10), N);
+}
+
+} // namespace
+
+std::vector<std::uint8_t> DealGroups(std::size_t size, std::int16_t numberOfGroups) {
+    std::vector<std::uint8_t> groups(size);
+    std::int16_t g = 1;
+    for (auto& group : groups) {
+        group = static_cast<std::uint8_t>(g);
+        g = g == numberOfGroups ? std::int16_t{1} : static_cast<std::int16_t>(g + 1);
+    }
+    return groups;
+}
+
+void ShuffleBlock(UniformSource& random, std::span<std::uint8_t> groups) {
+    std::array<std::int16_t, 4 * BatchValues> positions;
+    auto valuesLeft = 2 * static_cast<std::size_t>(CountExchanges(groups.size()));
+    while (valuesLeft > 0) {
+        const auto next = std::span(positions).first(std::min(valuesLeft, positions.size()));
+        // Drawn from 0 where the position of the draw counts from 1: the lower end is added and no more.
+        DrawRandomInts(random, 0, static_cast<std::int16_t>(groups.size() - 1), next);
+        ExchangePositions(groups, next);
+        valuesLeft -= next.size();
+    }
+}
+
+void ExchangePositions(std::span<std::uint8_t> groups, std::span<const std::int16_t> positions) {
+    for (std::size_t i = 0; i < positions.size(); i += 2)
+        std::swap(groups[static_cast<std::uint16_t>(positions[i])],
+                  groups[static_cast<std::uint16_t>(positions[i + 1])]);
+}
+
+} // namespace orvane

@@ -1,0 +1,32 @@
+#include "engine/random_draws.h"
+
+#include "engine/numbers.h"
+#include "engine/vector_kernels.h"
+
+#include <algorithm>
+#include <array>
+
+namespace orvane {
+
+std::int16_t DrawRandomInt(UniformSource& source, std::int16_t Lo, std::int16_t Hi) {
+    const double U = source.UniformNext();
+    const std::int16_t W = Subtract16(Hi, Lo);
+    const std::int16_t R = ToInt16(W * U);
+    return Add16(R, Lo);
+}
+
+void DrawRandomInts(UniformSource& source, std::int16_t Lo, std::int16_t Hi, std::span<std::int16_t> draws) {
+    // Some batches of the source, and few enough values to stay in the machine's innermost cache.
+    std::array<float, 4 * BatchValues> values;
+    const std::int16_t W = Subtract16(Hi, Lo);
+    const VectorKernels& kernels = BestKernels();
+    while (!draws.empty()) {
+        const std::size_t count = std::min(draws.size(), values.size());
+        const auto next = std::span(values).first(count);
+        source.UniformFill(next);
+        kernels.ScaleToRange(next, Lo, W, draws.first(count));
+        draws = draws.subspan(count);
+    }
+}
+
+} // namespace orvane

@@ -1,0 +1,104 @@
+#include "engine/runs_test.h"
+
+#include "engine/numbers.h"
+#include "platform/failure.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace orvane {
+namespace {
+
+/// 0 for each position below the mean of the block, 1 for each at or above it.
+std::vector<std::int16_t> FlagsOf(std::span<const std::int16_t> IntArr) {
+    std::int32_t total = 0;
+    for (const std::int16_t number : IntArr)
+        total += number;
+    const auto mean = static_cast<float>(static_cast<double>(total) / static_cast<double>(IntArr.size()));
+
+    std::vector<std::int16_t> flags(IntArr.size());
+    std::transform(IntArr.begin(), IntArr.end(), flags.begin(), [mean](std::int16_t number) {
+        return static_cast<std::int16_t>(static_cast<float>(number) < mean ? 0 : 1);
+    });
+    return flags;
+}
+
+/// The statistic is 0 divided by 0 for one position, for two positions on either side of the mean, and for
+/// positions that are all on one side.
+bool HasStatistic(const RunsCounts& counts) {
+    return counts.n0 > 0 && counts.n1 > 0 && counts.n0 + counts.n1 > 2;
+}
+
+/// The most runs that n0 and n1 flags can form.
+std::int32_t MostRuns(const RunsCounts& counts) {
+    return 2 * std::min(counts.n0, counts.n1) + (counts.n0 == counts.n1 ? 0 : 1);
+}
+
+} // namespace
+
+std::int16_t GetIntName(const MSFlexGrid& groupNames, const std::string& strName) {
+    for (std::int16_t i = 1; i < groupNames.Rows(); ++i)
+        if (groupNames.TextMatrix(i, 1) == strName)
+            return i;
+    return 0;
+}
+
+RunsTestResult GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& messages) {
+    try {
+        return {RunsPValue(RunsStatistic(CountRuns(IntArr))), true};
+    } catch (const Failure& failure) {
+        if (failure.Number == failure_number::Arithmetic)
+            messages.Show("Insufficient memory to perform statistics");
+    } catch (const std::exception&) {
+        // The result tells that the test failed; a real lack of memory leaves nothing to say it with.
+    }
+    return {0, false};
+}
+
+RunsCounts CountRuns(std::span<const std::int16_t> IntArr) {
+    const std::vector<std::int16_t> flags = FlagsOf(IntArr);
+    RunsCounts counts{0, 0, 1};
+    std::int16_t current = flags.front();
+    for (const std::int16_t flag : flags) {
+        if (flag != current)
+            counts.runs = Add16(counts.runs, 1);
+        current = flag;
+        ++(flag == 0 ? counts.n0 : counts.n1);
+    }
+    return counts;
+}
+
+float RunsStatistic(const RunsCounts& counts) {
+    if (!HasStatistic(counts))
+        throw Failure("The Runs test has no value for this block.", failure_number::Arithmetic,
+                      "GetRandomness");
+    const double a = Multiply32(Multiply32(2, counts.n0), counts.n1);
+    const double m = counts.n0 + counts.n1;
+    const auto expected = static_cast<float>(a / m + 1);
+    const double variance = (a * (a - m)) / (m * m * (m - 1));
+    const double deviation = std::sqrt(variance);
+    return static_cast<float>((counts.runs - static_cast<double>(expected)) / deviation);
+}
+
+float RunsPValue(float z) {
+    constexpr double densityAtZero = 0.398942280401433; // 1 / sqrt(2 pi)
+    const double square = static_cast<double>(z) * static_cast<double>(z);
+    return static_cast<float>(densityAtZero * std::exp(-square / 2));
+}
+
+bool CanPassRunsTest(std::span<const std::int16_t> IntArr, float sigLevel) {
+    if (IntArr.empty())
+        return false;
+    RunsCounts counts = CountRuns(IntArr);
+    if (!HasStatistic(counts))
+        return false;
+    for (std::int32_t runs = 2; runs <= MostRuns(counts); ++runs) {
+        counts.runs = static_cast<std::int16_t>(runs);
+        if (RunsPValue(RunsStatistic(counts)) > sigLevel)
+            return true;
+    }
+    return false;
+}
+
+} // namespace orvane

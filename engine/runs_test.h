@@ -1,0 +1,47 @@
+// The Wald-Wolfowitz runs test above and below the mean, in its normal approximation, on the group numbers of
+// a block. Its "P value" is the density of the standard normal distribution at the statistic, not a tail
+// probability: at most 0.398942280401433, and falling as the number of runs leaves its expectation.
+#pragma once
+
+#include "platform/message_box.h"
+#include "platform/ms_flex_grid.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace orvane {
+
+/// The group number of a name: the first row of the grid that holds it, 0 when none does.
+std::int16_t GetIntName(const MSFlexGrid& groupNames, const std::string& strName);
+
+struct RunsTestResult {
+    float PValue;  ///< 0 when the test failed
+    bool Computed; ///< false when the test failed, whatever the cause
+};
+
+/// The P value of a block, `IntArr` holding the group number of each position. Catches every failure within
+/// itself; when the statistic has no value (0 divided by 0), it says so in a message.
+RunsTestResult GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& messages);
+
+/// The counts that the test rests on.
+struct RunsCounts {
+    std::int32_t n0;   ///< positions below the mean
+    std::int32_t n1;   ///< positions at or above the mean
+    std::int16_t runs; ///< runs of equal flags in position order
+};
+/// `IntArr` has at least one entry.
+RunsCounts CountRuns(std::span<const std::int16_t> IntArr);
+
+/// The test statistic of these counts (Wald and Wolfowitz 1940, without continuity correction). Throws an
+/// Arithmetic failure where it has no value.
+float RunsStatistic(const RunsCounts& counts);
+
+/// The density of the standard normal distribution at z.
+float RunsPValue(float z);
+
+/// Whether any arrangement of a block with these group numbers, in whatever order, has a P value above
+/// `sigLevel`. Exact: it tries each number of runs that such a block can have.
+bool CanPassRunsTest(std::span<const std::int16_t> IntArr, float sigLevel);
+
+} // namespace orvane

@@ -1,0 +1,117 @@
+#include "engine/sequence_builder.h"
+
+#include "engine/block_shuffle.h"
+#include "engine/numbers.h"
+#include "engine/runs_test.h"
+#include "platform/failure.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace orvane {
+namespace {
+
+/// A block that can pass does so after a few attempts. This many in vain mean that the source hands out no
+/// random values.
+constexpr int MostAttempts = 100'000;
+
+/// The cells of a block's table, row by row, of what `positions` hold: position 1 in the first column of the
+/// first row, position 2 below it.
+std::vector<std::string> LayOut(std::vector<std::string> positions, std::int16_t columns) {
+    const auto filled = static_cast<std::int16_t>(positions.size());
+    const std::int16_t cells = RaiseToLimit(filled, columns);
+    const auto rows = static_cast<std::int16_t>(cells / columns);
+
+    std::vector<std::string> table;
+    table.reserve(static_cast<std::size_t>(cells));
+    for (std::int16_t row = 1; row <= rows; ++row)
+        for (std::int16_t column = 0; column < columns; ++column) {
+            const std::int16_t position = Add16(Multiply16(column, rows), row);
+            table.push_back(position > filled ? std::string()
+                                              : std::move(positions[static_cast<std::size_t>(position - 1)]));
+        }
+    return table;
+}
+
+} // namespace
+
+void SequenceBuilder::BuildSequenceArr(std::vector<std::string>& ArrStr,
+                                       std::vector<std::string>& BlockCodeArr, std::int16_t OffSet) {
+    const std::size_t size = ArrStr.size();
+    const auto first = static_cast<std::size_t>(OffSet);
+    if (size == 0 || first + size > results_.CodeArr.size())
+        throw Failure("A block of the list has no positions or no codes.", failure_number::InvalidArgument,
+                      "BuildSequenceArr");
+
+    const std::vector<std::string> names = GroupNames();
+    std::vector<std::uint8_t> groups = DealGroups(size, settings_.NumberOfGroups);
+    BlockCodeArr.assign(results_.CodeArr.begin() + OffSet,
+                        results_.CodeArr.begin() + OffSet + static_cast<std::ptrdiff_t>(size));
+    ShuffleUntilAccepted(groups, names);
+
+    std::transform(groups.begin(), groups.end(), ArrStr.begin(),
+                   [&](std::uint8_t group) { return names[group]; });
+    ArrStr = LayOut(std::move(ArrStr), settings_.Columns);
+    BlockCodeArr = LayOut(std::move(BlockCodeArr), settings_.Columns);
+}
+
+std::vector<std::string> SequenceBuilder::GroupNames() const {
+    std::vector<std::string> names(1);
+    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g)
+        names.push_back(groupNames_.TextMatrix(g, 1));
+    return names;
+}
+
+void SequenceBuilder::ShuffleUntilAccepted(std::vector<std::uint8_t>& groups,
+                                           const std::vector<std::string>& names) {
+    // Groups of the same name count as one group in the test.
+    std::vector<std::int16_t> numberOfName(names.size());
+    std::vector<std::int16_t> numbers(groups.size());
+    if (settings_.PerformRuns)
+        std::transform(names.begin(), names.end(), numberOfName.begin(),
+                       [this](const std::string& name) { return GetIntName(groupNames_, name); });
+
+    for (int attempt = 0; attempt < MostAttempts; ++attempt) {
+        random_.UniformReseed(clock_.SecondsSinceMidnight());
+        ShuffleBlock(random_, groups);
+        if (!settings_.PerformRuns)
+            return;
+        std::transform(groups.begin(), groups.end(), numbers.begin(),
+                       [&](std::uint8_t group) { return numberOfName[group]; });
+        if (IsAccepted(numbers))
+            return;
+    }
+    throw Failure("A block of " + std::to_string(groups.size()) + " subjects did not pass the Runs test in " +
+                      std::to_string(MostAttempts) + " attempts.",
+                  failure_number::CannotPassRunsTest, "BuildSequenceArr");
+}
+
+bool SequenceBuilder::IsAccepted(std::span<const std::int16_t> numbers) {
+    const RunsTestResult result = GetRandomness(numbers, messages_);
+    results_.LastPValue = result.PValue;
+    if (result.Computed && result.PValue > settings_.SigLevel) {
+        results_.MaxPValue = std::max(results_.MaxPValue, result.PValue);
+        results_.MinPValue = std::min(results_.MinPValue, result.PValue);
+        return true;
+    }
+    if (!result.Computed || !CanPassRunsTest(numbers, settings_.SigLevel))
+        throw Failure("a block of " + std::to_string(numbers.size()) +
+                          " subjects cannot pass the Runs test at level " + SevenDigits(settings_.SigLevel),
+                      failure_number::CannotPassRunsTest, "BuildSequenceArr");
+    return false;
+}
+
+std::int16_t RaiseToLimit(std::int16_t n, std::int16_t columns) {
+    if (n % columns == 0)
+        return n;
+    return Multiply16(columns, Add16(static_cast<std::int16_t>(n / columns), 1));
+}
+
+std::int16_t GetMaxEq(std::int16_t columns) {
+    static constexpr std::array<std::int16_t, MostColumns> widths = {20,  35,  55,  75,  95,
+                                                                     110, 130, 137, 142, 148};
+    return widths.at(static_cast<std::size_t>(columns - 1));
+}
+
+} // namespace orvane

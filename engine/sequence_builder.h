@@ -1,0 +1,59 @@
+// The assignment of one block: dealt out, shuffled, tested and laid out in columns.
+#pragma once
+
+#include "engine/list_settings.h"
+#include "platform/message_box.h"
+#include "platform/ms_flex_grid.h"
+#include "platform/time_of_day.h"
+#include "platform/uniform_source.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace orvane {
+
+class SequenceBuilder {
+  public:
+    SequenceBuilder(const ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
+                    UniformSource& random, TimeOfDay& clock, MessageBox& messages)
+        : settings_(settings), results_(results), groupNames_(groupNames), random_(random), clock_(clock),
+          messages_(messages) {}
+
+    /// Makes one block. On entry both arrays have one entry for each position of the block, their content is
+    /// ignored, and `OffSet` is the number of subjects of the earlier blocks. On return both have one entry
+    /// for each cell of the block's table, row by row: the group name and the subject code, both empty for a
+    /// blank cell. Positions run down the columns.
+    ///
+    /// With the Runs test on, the block is shuffled further until it passes; LastPValue, MinPValue and
+    /// MaxPValue follow. A block that cannot pass is a failure, never a block that is printed and never an
+    /// endless loop. A block above LargestBlock is an Overflow failure. A failure leaves the arrays as they
+    /// stand.
+    void BuildSequenceArr(std::vector<std::string>& ArrStr, std::vector<std::string>& BlockCodeArr,
+                          std::int16_t OffSet);
+
+  private:
+    /// The names of the groups, the name of group g in slot g; slot 0 is empty.
+    [[nodiscard]] std::vector<std::string> GroupNames() const;
+    void ShuffleUntilAccepted(std::vector<std::uint8_t>& groups, const std::vector<std::string>& names);
+    /// Tests one arrangement, `numbers` holding the group number of each position. Throws when no arrangement
+    /// of this block can ever pass.
+    bool IsAccepted(std::span<const std::int16_t> numbers);
+
+    const ListSettings& settings_;
+    ListResults& results_;
+    const MSFlexGrid& groupNames_;
+    UniformSource& random_;
+    TimeOfDay& clock_;
+    MessageBox& messages_;
+};
+
+/// `n` raised to a multiple of `columns`, in checked 16-bit arithmetic.
+std::int16_t RaiseToLimit(std::int16_t n, std::int16_t columns);
+
+/// The width in characters of the ruled line under a block of the text and clipboard reports, by the number
+/// of columns, 1 to 10.
+std::int16_t GetMaxEq(std::int16_t columns);
+
+} // namespace orvane

@@ -1,0 +1,57 @@
+// The two loops that a shuffle spends its time in, as loops over whole batches. Each is written once and
+// compiled for several kinds of machine; every version gives the same values, bit for bit.
+#pragma once
+
+#include "engine/chacha.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace orvane {
+
+/// Rounds of the generator: eight are the fewest that no attack comes near, and enough for statistics by far.
+inline constexpr int SourceRounds = 8;
+
+/// The word of a block's input that counts the blocks, its low half.
+inline constexpr std::size_t ChaChaCounterAt = 12;
+
+/// Blocks that are made side by side.
+inline constexpr std::size_t BatchBlocks = 16;
+/// Values of a block: three words hold the bits of four values, and the sixteenth word is left over.
+inline constexpr std::size_t BlockValues = 20;
+inline constexpr std::size_t BatchValues = BatchBlocks * BlockValues;
+
+/// The value whose 24 bits are the upper ones of `word`.
+ORVANE_INLINE float UniformValue(std::uint32_t word) {
+    return static_cast<float>(static_cast<std::int32_t>(word >> 8U)) * 0x1p-24F;
+}
+
+/// Four values: one from the upper 24 bits of each word, one from the lower 8 bits of all three.
+ORVANE_INLINE std::array<float, 4> UniformValues(std::uint32_t a, std::uint32_t b, std::uint32_t c) {
+    return {UniformValue(a), UniformValue(b), UniformValue(c),
+            UniformValue((a << 24U) | ((b & 255U) << 16U) | ((c & 255U) << 8U))};
+}
+
+/// The loops, compiled for one kind of machine.
+struct VectorKernels {
+    const char* Name;
+
+    /// The values of sixteen blocks, made from `first` and from the fifteen inputs whose counter is higher by
+    /// 1 to 15; the counter of `first` is a multiple of 16. The first values of all blocks come first.
+    void (*UniformBatch)(const ChaChaWords& first, std::span<float, BatchValues> values);
+
+    /// draws[i] = Lo + values[i] * range, rounded to nearest, ties to even, on the exact product. `range` is
+    /// from 0 to 32767, a value from 0 to below 1, and every result fits 16 bits.
+    void (*ScaleToRange)(std::span<const float> values, std::int16_t Lo, std::int16_t range,
+                         std::span<std::int16_t> draws);
+};
+
+/// The versions that this machine can run: first the one that every machine can, last the fastest.
+std::span<const VectorKernels> RunnableKernels();
+
+/// The fastest of them, found out once.
+const VectorKernels& BestKernels();
+
+} // namespace orvane

@@ -1,0 +1,19 @@
+// What the program calls itself.
+#pragma once
+
+#include <cstdint>
+
+namespace orvane {
+
+/// The caption of every plain message box and the title in the About box.
+inline constexpr const char* ApplicationTitle = "Orvane Software";
+
+/// The program's version record.
+struct VersionRecord {
+    std::int16_t Major;
+    std::int16_t Minor;
+    std::int16_t Revision;
+};
+inline constexpr VersionRecord ApplicationVersion{1, 0, 0};
+
+} // namespace orvane

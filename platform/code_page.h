@@ -1,0 +1,39 @@
+// The 8-bit code page in which text leaves the program. Inside, text is UTF-8.
+#pragma once
+
+#include <array>
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+/// What becomes of a character that the page cannot hold.
+enum class Unmappable {
+    Fail,             ///< a Failure that names the character and the page
+    QuestionMark,     ///< "?"
+    NumericReference, ///< "&#8805;", for web pages
+};
+
+class CodePage {
+  public:
+    /// `name` for messages, such as "Windows-1252"; `characters[b]` the character of byte b. A byte that the
+    /// page leaves undefined stands for the control character of the same number, so that every byte makes
+    /// the round trip.
+    CodePage(std::string name, const std::array<char32_t, 256>& characters);
+
+    [[nodiscard]] const std::string& Name() const { return name_; }
+
+    /// `text` in bytes of the page, one a character.
+    [[nodiscard]] std::string Encode(std::string_view text, Unmappable unmappable) const;
+
+    /// The text of `bytes`, one character a byte.
+    [[nodiscard]] std::string Decode(std::string_view bytes) const;
+
+  private:
+    std::string name_;
+    std::array<std::string, 256> texts_;
+    std::map<char32_t, char> bytes_;
+};
+
+} // namespace orvane

@@ -1,0 +1,13 @@
+// The clock of the desktop.
+#pragma once
+
+namespace orvane {
+
+class TimeOfDay {
+  public:
+    virtual ~TimeOfDay() = default;
+    /// Seconds since local midnight with fractions, 0 up to 86400.
+    virtual float SecondsSinceMidnight() = 0;
+};
+
+} // namespace orvane
