@@ -1,0 +1,130 @@
+#include "options/block_size_list.h"
+
+#include "engine/numbers.h"
+#include "engine/random_draws.h"
+#include "engine/text.h"
+#include "platform/failure.h"
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
+
+namespace orvane {
+
+namespace {
+
+constexpr std::size_t Most16 = std::numeric_limits<std::int16_t>::max();
+
+Failure TooMany(const std::string& what) {
+    return {"Overflow: " + what, failure_number::Overflow, "BlockSizeList"};
+}
+
+std::vector<std::string> Split(std::string_view text, char separator) {
+    std::vector<std::string> parts;
+    if (text.empty())
+        return parts;
+    for (;;) {
+        const std::size_t end = text.find(separator);
+        parts.emplace_back(text.substr(0, end));
+        if (end == std::string_view::npos)
+            return parts;
+        text.remove_prefix(end + 1);
+    }
+}
+
+/// The value of an item or of one end of a range, which holds digits alone; 0 for an empty one.
+std::int16_t ValueOf(const std::string& digits) {
+    return ToInt16(NumericValue(digits));
+}
+
+void AppendCandidate(std::vector<std::int16_t>& pool, std::int16_t size) {
+    if (pool.size() > Most16)
+        throw TooMany("more than 32767 block sizes");
+    pool.push_back(size);
+}
+
+} // namespace
+
+bool BlockSizeList::NotValid(const std::string& InpStr) {
+    if (InpStr.empty())
+        return true;
+    // Characters are counted in 16 bits, and the count takes one step past the last of them.
+    if (CharacterCount(InpStr) >= Most16)
+        throw TooMany("a list of block sizes of 32767 or more characters");
+    const std::string S = RemoveSpaces(InpStr);
+    return !ValidChars(S) || !BuildArr(S);
+}
+
+std::string BlockSizeList::RemoveSpaces(const std::string& S) {
+    std::string kept = S;
+    std::erase(kept, ' ');
+    return kept;
+}
+
+bool BlockSizeList::ValidChars(const std::string& S) {
+    return std::all_of(S.begin(), S.end(),
+                       [](char c) { return (c >= '0' && c <= '9') || c == '-' || c == ','; });
+}
+
+bool BlockSizeList::BuildArr(const std::string& S) {
+    std::vector<std::int16_t> pool{0};
+    if (!ExpandItems(S, pool))
+        return Refuse("Error in the value of block sizes");
+    const std::int16_t groups = settings_.NumberOfGroups;
+    if (std::any_of(pool.begin(), pool.end(), [groups](std::int16_t size) { return size % groups != 0; }))
+        return Refuse("block sizes must be divisable by the number of groups");
+    DrawBlocks(pool);
+    return true;
+}
+
+bool BlockSizeList::ExpandItems(const std::string& S, std::vector<std::int16_t>& pool) {
+    for (const std::string& item : Split(S, ',')) {
+        if (item.find('-') == std::string::npos) {
+            const std::int16_t size = ValueOf(item);
+            if (size == 0)
+                return false;
+            AppendCandidate(pool, size);
+            continue;
+        }
+        std::int16_t min = 0;
+        std::int16_t max = 0;
+        GetMinMax(item, min, max);
+        if (min == 0 || max == 0)
+            return false;
+        for (std::int16_t size = min; size <= max; size = Add16(size, 1))
+            AppendCandidate(pool, size);
+    }
+    return true;
+}
+
+void BlockSizeList::GetMinMax(const std::string& S, std::int16_t& min, std::int16_t& max) {
+    min = max = 0;
+    const std::vector<std::string> ends = Split(S, '-');
+    if (ends.size() != 2)
+        return;
+    min = ValueOf(ends[0]);
+    max = ValueOf(ends[1]);
+}
+
+bool BlockSizeList::Refuse(const std::string& message) {
+    messages_.Show(message);
+    controls_.FocusUnEqBlockSizeTxt();
+    return false;
+}
+
+void BlockSizeList::DrawBlocks(const std::vector<std::int16_t>& pool) {
+    random_.UniformReseed(clock_.SecondsSinceMidnight());
+    results_.BlockSizes.assign(1, 0);
+    if (pool.size() == 1)
+        throw Failure("the list of block sizes stands for no size", failure_number::OutOfRange, "BuildArr");
+    const std::int16_t last = ToInt16(static_cast<double>(pool.size() - 1));
+    std::int16_t sum = 0;
+    do {
+        const std::int16_t slot = DrawRandomInt(random_, 1, last);
+        const std::int16_t size = pool[static_cast<std::size_t>(slot)];
+        results_.BlockSizes.push_back(size);
+        sum = Add16(sum, size);
+    } while (sum < settings_.SampleSize);
+}
+
+} // namespace orvane

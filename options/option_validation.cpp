@@ -1,0 +1,147 @@
+#include "options/option_validation.h"
+
+#include "engine/numbers.h"
+#include "engine/random_draws.h"
+#include "options/list_refusal.h"
+#include "platform/failure.h"
+
+#include <algorithm>
+#include <concepts>
+#include <limits>
+#include <optional>
+
+namespace orvane {
+
+namespace {
+
+constexpr double HighestLevel = 0.3;
+constexpr std::int16_t StatisticsTab = 4;
+
+bool IsNumeric(const Failure& failure) {
+    return failure.Number == failure_number::Overflow || failure.Number == failure_number::Arithmetic ||
+           failure.Number == failure_number::OutOfRange;
+}
+
+/// Whether `judge` finds fault. Numbers that it cannot work with are a fault of what the user typed. Any
+/// other failure, such as a random source that has nothing to draw from, is no answer and goes on to the
+/// window.
+template <std::predicate Judge>
+bool FindsFault(Judge&& judge) {
+    try {
+        return judge();
+    } catch (const Failure& failure) {
+        if (!IsNumeric(failure))
+            throw;
+        return true;
+    }
+}
+
+} // namespace
+
+bool OptionValidation::NotValidInputs() {
+    results_.BlockSizes.assign(1, 0);
+    return BlocksRefused() || LevelRefused() || ListRefused();
+}
+
+bool OptionValidation::Refuse(const std::string& message, Focus focus) {
+    messages_.Show(message);
+    (controls_.*focus)();
+    return true;
+}
+
+bool OptionValidation::BlocksRefused() {
+    switch (settings_.prBlockOption) {
+    case OnlyOneBlock:
+        results_.BlockSizes.push_back(settings_.SampleSize);
+        return false;
+    case EqualSize:
+        if (EqualSizeRefused())
+            return true;
+        SetForEqualBlocks();
+        return false;
+    case RandomSizesOf:
+        return FindsFault([this] { return list_.NotValid(settings_.prUnEqBlockSize); }) &&
+               Refuse("please specify block sizes", &OptionsControls::FocusUnEqBlockSizeTxt);
+    case RandomBlockSize:
+        SetForRandomBlockSize();
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool OptionValidation::EqualSizeRefused() {
+    constexpr Focus field = &OptionsControls::FocusEqBlockSizeTxt;
+    const std::string& text = settings_.prEqBlockSize;
+    if (FindsFault([&] { return NumericValue(text) <= 0; }))
+        return Refuse("please specify the block size", field);
+    if (FindsFault([&] { return ToInt32(NumericValue(text)) % settings_.NumberOfGroups != 0; }))
+        return Refuse("Block size must be divisable by the number of groups", field);
+    const std::int32_t size = ToInt32(NumericValue(text));
+    if (size == 0)
+        return Refuse("please specify the block size", field);
+    if (size > std::numeric_limits<std::int16_t>::max())
+        return Refuse("the block size can be at most 32767", field);
+    return false;
+}
+
+bool OptionValidation::LevelRefused() {
+    const bool fault = FindsFault([this] {
+        const double level = NumericValue(controls_.LevelText());
+        return !(level > 0 && level <= HighestLevel);
+    });
+    if (!fault)
+        return false;
+    messages_.Show("Significance level must be greater than 0 ad less than 0.35");
+    controls_.SelectTab(StatisticsTab);
+    controls_.FocusTxtLevel();
+    return true;
+}
+
+bool OptionValidation::ListRefused() {
+    const std::optional<std::string> message = ListRefusal(settings_, results_.BlockSizes, groupNames_);
+    if (message)
+        messages_.Show(*message);
+    return message.has_value();
+}
+
+void OptionValidation::SetForEqualBlocks() {
+    const std::int16_t size = ToInt16(NumericValue(settings_.prEqBlockSize));
+    // One block more than the division gives, also when it leaves no remainder.
+    for (std::int32_t more = settings_.SampleSize / size; more >= 0; --more)
+        results_.BlockSizes.push_back(size);
+}
+
+void OptionValidation::SetForRandomBlockSize() {
+    random_.UniformReseed(clock_.SecondsSinceMidnight());
+    const std::int32_t deals = 1 + settings_.SampleSize / settings_.NumberOfGroups;
+    // A multiplier of 0, as small samples give, would be a block without positions.
+    const std::int16_t Lo = ToInt16(std::max(1, deals / 5));
+    const std::int16_t Hi = ToInt16(std::max(1, deals / 3));
+    std::int32_t sum = 0;
+    do {
+        const std::int16_t size = Multiply16(settings_.NumberOfGroups, DrawRandomInt(random_, Lo, Hi));
+        results_.BlockSizes.push_back(size);
+        sum += size;
+    } while (sum <= settings_.SampleSize);
+}
+
+void OptionValidation::cmdOK_Click() {
+    if (NotValidInputs())
+        return;
+    settings_.SelectedCmd = ClosedByOK;
+    settings_.TableBorder = controls_.TableBorderChecked();
+    settings_.CellSpacing = controls_.CellSpacingPosition();
+    pointer_.ShowBusy(); // the opener of the window shows the normal one at its end
+    controls_.Close();
+}
+
+void OptionValidation::cmdCancel_Click() {
+    snapshot_.Restore(settings_);
+    settings_.SelectedCmd = ClosedByCancel;
+    controls_.Close();
+}
+
+void OptionValidation::cmdApply_Click() {}
+
+} // namespace orvane

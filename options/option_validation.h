@@ -1,0 +1,66 @@
+// What OK, Cancel and Apply of the options window do. A valid OK fixes the block structure of the list.
+#pragma once
+
+#include "engine/list_settings.h"
+#include "options/block_size_list.h"
+#include "options/option_properties.h"
+#include "options/options_controls.h"
+#include "platform/message_box.h"
+#include "platform/mouse_pointer.h"
+#include "platform/ms_flex_grid.h"
+#include "platform/time_of_day.h"
+#include "platform/uniform_source.h"
+
+#include <string>
+
+namespace orvane {
+
+class OptionValidation {
+  public:
+    OptionValidation(ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
+                     OptionsControls& controls, MessageBox& messages, MousePointer& pointer,
+                     UniformSource& random, TimeOfDay& clock)
+        : settings_(settings), results_(results), groupNames_(groupNames), controls_(controls),
+          messages_(messages), pointer_(pointer), random_(random), clock_(clock),
+          list_(settings, results, controls, messages, random, clock) {}
+
+    /// Keeps the values that Cancel goes back to. To be called at every opening, once the level has gone
+    /// through its field and before BringOptionsIntoRange.
+    void TakeSnapshot() { snapshot_ = OptionSnapshot(settings_); }
+
+    /// True when the options were refused, after the messages of one fault; False when they are valid and
+    /// BlockSizes holds a list that can be made. SampleSize must be above 0. A number that cannot be worked
+    /// with counts as a fault. Other failures, as of the random source, come out. After a refusal or a
+    /// failure BlockSizes may hold anything; the next call starts anew.
+    bool NotValidInputs();
+
+    /// Leaves the window open after a refusal. Otherwise shows the busy pointer, for the opener to take back,
+    /// and closes the window.
+    void cmdOK_Click();
+    void cmdCancel_Click();
+    /// Neither checks nor stores anything.
+    void cmdApply_Click();
+
+  private:
+    using Focus = void (OptionsControls::*)();
+    bool Refuse(const std::string& message, Focus focus);
+    bool BlocksRefused();
+    bool EqualSizeRefused();
+    bool LevelRefused();
+    bool ListRefused();
+    void SetForEqualBlocks();
+    void SetForRandomBlockSize();
+
+    ListSettings& settings_;
+    ListResults& results_;
+    const MSFlexGrid& groupNames_;
+    OptionsControls& controls_;
+    MessageBox& messages_;
+    MousePointer& pointer_;
+    UniformSource& random_;
+    TimeOfDay& clock_;
+    BlockSizeList list_;
+    OptionSnapshot snapshot_;
+};
+
+} // namespace orvane
