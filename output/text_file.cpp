@@ -1,0 +1,92 @@
+#include "output/text_file.h"
+
+#include "engine/text.h"
+#include "platform/failure.h"
+
+#include <array>
+#include <span>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr std::size_t ChunkSize = std::size_t{1} << 16U;
+
+} // namespace
+
+TextFileWriter::TextFileWriter(std::unique_ptr<OutputFile> file, const CodePage& page, Unmappable unmappable)
+    : file_(std::move(file)), page_(page), unmappable_(unmappable) {}
+
+TextFileWriter::~TextFileWriter() {
+    try {
+        if (file_)
+            Flush();
+    } catch (...) {
+        // The failure that kept Close from being called is the one that is reported.
+    }
+}
+
+void TextFileWriter::Write(std::string_view text) {
+    buffer_ += page_.Encode(text, unmappable_);
+    if (buffer_.size() >= ChunkSize)
+        Flush();
+}
+
+void TextFileWriter::WriteLine(std::string_view text) {
+    Write(text);
+    Write(LineEnd);
+}
+
+void TextFileWriter::Close() {
+    Flush();
+    const std::unique_ptr<OutputFile> file = std::move(file_);
+    file->Close();
+}
+
+void TextFileWriter::Flush() {
+    // Bytes that failed are not held for a second try: a part of them may be in the file.
+    const std::string bytes = std::exchange(buffer_, {});
+    if (!bytes.empty())
+        file_->Write(bytes);
+}
+
+TextFileReader::TextFileReader(std::unique_ptr<InputFile> file, const CodePage& page, std::string path)
+    : file_(std::move(file)), page_(page), path_(std::move(path)) {}
+
+bool TextFileReader::AtEnd() {
+    return next_ == buffer_.size() && !Fill();
+}
+
+std::string TextFileReader::ReadLine() {
+    if (AtEnd())
+        throw Failure("the file " + path_ + " ends too early", failure_number::EndOfFile, "reading a line");
+    std::size_t end = buffer_.find('\r', next_);
+    while (end == std::string::npos) {
+        const std::size_t searched = buffer_.size() - next_;
+        if (searched > LongestLine || !Fill())
+            break;
+        end = buffer_.find('\r', searched);
+    }
+    const bool ended = end != std::string::npos;
+    const std::size_t length = (ended ? end : buffer_.size()) - next_;
+    if (length > LongestLine)
+        throw Failure("a line of the file " + path_ + " is too long", failure_number::TooLarge,
+                      "reading a line");
+    std::string line = page_.Decode(std::string_view(buffer_).substr(next_, length));
+    next_ += length + (ended ? 1 : 0);
+    if (ended && !AtEnd() && buffer_[next_] == '\n')
+        ++next_;
+    return line;
+}
+
+bool TextFileReader::Fill() {
+    buffer_.erase(0, next_);
+    next_ = 0;
+    std::array<char, ChunkSize> chunk{};
+    const std::size_t count = file_->Read(std::span<char>(chunk));
+    buffer_.append(chunk.data(), count);
+    return count > 0;
+}
+
+} // namespace orvane

@@ -1,0 +1,71 @@
+#include "output/text_report.h"
+
+#include "engine/text.h"
+#include "output/glb_util.h"
+
+namespace orvane {
+
+namespace {
+
+/// From the start of one column to the start of the next, whatever the number of columns.
+constexpr std::size_t ColumnDistance = 20;
+constexpr std::int32_t BlankWidth = 1;
+
+void WriteTextList(const ReportContext& context, const std::string& S) {
+    const std::int16_t ruleWidth = GetMaxEq(context.Settings.Columns);
+    const Platform& desktop = context.Desktop;
+    RequireMappableNames(context.Settings, context.GroupNames, desktop.Page);
+    TextFileWriter file(desktop.FileSystem.OpenForOutput(S), desktop.Page, Unmappable::Fail);
+    PositionedCells cells(file, BlankWidth, ruleWidth);
+    WalkCells(context.Settings, context.Results, context.Builder, cells);
+    file.Close();
+}
+
+} // namespace
+
+void GenerateText(const ReportContext& context, const std::string& S) {
+    const Platform& desktop = context.Desktop;
+    WithFailurePath(desktop.Messages, false, [&] {
+        WriteTextList(context, S);
+        OpenInBrowser(S, context.MainWindow, desktop.Shell, desktop.Messages);
+    });
+}
+
+void PositionedCells::RowBreak() {
+    EndLine();
+}
+
+void PositionedCells::FilledCell(std::int16_t column, const std::string& code, const std::string& groupName) {
+    MoveTo(column);
+    WriteText(CellText(code, groupName));
+}
+
+void PositionedCells::BlankCell(std::int16_t column) {
+    MoveTo(column);
+    WriteText(std::string(static_cast<std::size_t>(blankWidth_), ' '));
+}
+
+void PositionedCells::BlockEnd(bool /*lastBlock*/) {
+    EndLine();
+    WriteText(std::string(static_cast<std::size_t>(ruleWidth_), '='));
+    EndLine();
+}
+
+void PositionedCells::MoveTo(std::int16_t column) {
+    const std::size_t target = ColumnDistance * static_cast<std::size_t>(column - 1) + 1;
+    if (position_ > target)
+        EndLine();
+    WriteText(std::string(target - position_, ' '));
+}
+
+void PositionedCells::WriteText(const std::string& text) {
+    file_.Write(text);
+    position_ += CharacterCount(text);
+}
+
+void PositionedCells::EndLine() {
+    file_.Write(LineEnd);
+    position_ = 1;
+}
+
+} // namespace orvane

@@ -1,0 +1,61 @@
+#include "output/window_report.h"
+
+#include "engine/random_draws.h"
+#include "engine/subject_codes.h"
+#include "output/cell_walk.h"
+#include "output/glb_util.h"
+#include "output/text_file.h"
+#include "output/text_report.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr std::int32_t BlankWidth = 3;
+constexpr std::int32_t RuleWidthOfColumn = 13;
+constexpr int NameLength = 8;
+/// There are 36 to the power of 8 names: a thousand taken ones in a row mean that the answer cannot be true.
+constexpr int MostTries = 1000;
+
+std::string DrawName(UniformSource& random) {
+    const AlphaNumTable AlphaNumChar = BuildAlphaNumChar();
+    std::string name;
+    for (int drawn = 0; drawn < NameLength; ++drawn) {
+        const std::int16_t index =
+            DrawRandomInt(random, 0, static_cast<std::int16_t>(AlphaNumChar.size() - 1));
+        name += AlphaNumChar.at(static_cast<std::size_t>(index));
+    }
+    return name;
+}
+
+std::string FreeTemporaryPath(const Platform& desktop) {
+    for (int tries = 0; tries < MostTries; ++tries) {
+        std::string path = desktop.BesideProgram(DrawName(desktop.Random) + ".tmp");
+        if (!desktop.FileSystem.Exists(path))
+            return path;
+    }
+    throw Failure("no name is free for a temporary file in the folder " + desktop.ProgramDirectory,
+                  failure_number::OutOfRange, "OutputToWindow");
+}
+
+void WriteWindowList(const ReportContext& context, const std::string& path) {
+    const Platform& desktop = context.Desktop;
+    RequireMappableNames(context.Settings, context.GroupNames, desktop.Page);
+    TextFileWriter file(desktop.FileSystem.CreatePrivate(path), desktop.Page, Unmappable::Fail);
+    PositionedCells cells(file, BlankWidth, GetMaxCol(context.Settings) * RuleWidthOfColumn);
+    WalkCells(context.Settings, context.Results, context.Builder, cells);
+    file.Close();
+}
+
+} // namespace
+
+void OutputToWindow(const ReportContext& context, OutputWindow& window) {
+    const std::string path = FreeTemporaryPath(context.Desktop);
+    WithFailurePath(context.Desktop.Messages, false, [&] {
+        WriteWindowList(context, path);
+        window.OutputFileName(path, true);
+        window.ShowModal();
+    });
+}
+
+} // namespace orvane
