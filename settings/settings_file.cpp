@@ -1,0 +1,130 @@
+#include "settings/settings_file.h"
+
+#include "engine/numbers.h"
+#include "output/glb_util.h"
+#include "platform/failure.h"
+
+#include <algorithm>
+
+namespace orvane {
+
+namespace {
+
+constexpr float DefaultSigLevel = 0.05F;
+
+namespace label {
+constexpr const char* NumberOfGroups = "[Number of groups (2 - 16]";
+constexpr const char* Groups = "[Groups: Name of each group on a separate line]";
+constexpr const char* SampleSize = "[Sample Size]";
+constexpr const char* CodeAlphaNum = "[Code AlphaNum: 0-Alpha, 1-Numeric, 2-Mixed]";
+constexpr const char* CodeSeqRandom = "[Code SeqRandum: 0-Sequential, 1-Random]";
+constexpr const char* CodeLength = "[Code Length: (3-10)]";
+constexpr const char* BlockOption =
+    "[Block Option: 0-OnlyOneBlock, 1-EqualSize, 2-RandomSizesOf, 3-RandomBlockSize]";
+constexpr const char* EqBlockSize = "[Equal Block Size: Enter size]";
+constexpr const char* UnEqBlockSize = "[UnEqual Block Sizes: Enter sizes(comma delimmited and/or range]";
+constexpr const char* OutputOption = "[Output Option]";
+} // namespace label
+
+void WriteNumber(TextFileWriter& file, const char* label, std::int32_t number) {
+    file.WriteLine(label);
+    file.WriteLine(std::to_string(number));
+}
+
+/// The value behind a label.
+std::string ReadValue(TextFileReader& file) {
+    file.ReadLine();
+    return file.ReadLine();
+}
+
+std::int16_t Read16(TextFileReader& file) {
+    return ToInt16(NumericValue(ReadValue(file)));
+}
+
+std::int32_t Read32(TextFileReader& file) {
+    return ToInt32(NumericValue(ReadValue(file)));
+}
+
+} // namespace
+
+void SettingsFile::SaveSettings(const std::string& FileNameStr, bool Announce, Unmappable unmappable) {
+    WithFailurePath(desktop_.Messages, false, [&] {
+        if (unmappable == Unmappable::Fail)
+            RequireWritableTexts();
+        TextFileWriter file(desktop_.FileSystem.OpenForOutput(FileNameStr), desktop_.Page, unmappable);
+        WriteValues(file);
+        file.Close();
+        if (Announce)
+            desktop_.Messages.Show("Settings were saved successfully!");
+    });
+}
+
+void SettingsFile::RequireWritableTexts() const {
+    const auto require = [this](const std::string& text) {
+        if (text.find('\r') != std::string::npos)
+            throw Failure("A line end cannot be saved within a line of a settings file",
+                          failure_number::UnmappableCharacter, "SaveSettings");
+        static_cast<void>(desktop_.Page.Encode(text, Unmappable::Fail));
+    };
+    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g)
+        require(groupNames_.TextMatrix(g, 1));
+    require(settings_.prEqBlockSize);
+    require(settings_.prUnEqBlockSize);
+}
+
+void SettingsFile::WriteValues(TextFileWriter& file) {
+    // A carriage return would end the line early, and all values behind it would slide.
+    const auto writeText = [&file](std::string text) {
+        std::replace(text.begin(), text.end(), '\r', '?');
+        file.WriteLine(text);
+    };
+    WriteNumber(file, label::NumberOfGroups, settings_.NumberOfGroups);
+    file.WriteLine(label::Groups);
+    groupNames_.SetCol(1);
+    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g) {
+        groupNames_.SetRow(g);
+        writeText(groupNames_.Text());
+    }
+    WriteNumber(file, label::SampleSize, settings_.SampleSize);
+    WriteNumber(file, label::CodeAlphaNum, settings_.CodeAlphaNum);
+    WriteNumber(file, label::CodeSeqRandom, settings_.CodeSeqRandom);
+    WriteNumber(file, label::CodeLength, settings_.CodeLength);
+    WriteNumber(file, label::BlockOption, settings_.prBlockOption);
+    file.WriteLine(label::EqBlockSize);
+    writeText(settings_.prEqBlockSize);
+    file.WriteLine(label::UnEqBlockSize);
+    writeText(settings_.prUnEqBlockSize);
+    WriteNumber(file, label::OutputOption, settings_.OutputOption);
+}
+
+void SettingsFile::SetSettings(const std::string& FileNameStr, bool Announce) {
+    if (FileNameStr.empty())
+        return;
+    WithFailurePath(desktop_.Messages, false, [&] {
+        ReadValues(FileNameStr);
+        settings_.SigLevel = DefaultSigLevel;
+        if (Announce)
+            desktop_.Messages.Show("Settings were loaded successfully!");
+    });
+}
+
+void SettingsFile::ReadValues(const std::string& FileNameStr) {
+    TextFileReader file(desktop_.FileSystem.OpenForInput(FileNameStr), desktop_.Page, FileNameStr);
+    controls_.SetNogHsb(Read16(file));
+    file.ReadLine();
+    groupNames_.SetCol(1);
+    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g) {
+        groupNames_.SetRow(g);
+        groupNames_.SetText(file.ReadLine());
+    }
+    controls_.SetSampSizeTxt(ReadValue(file));
+    settings_.CodeAlphaNum = Read32(file);
+    settings_.CodeSeqRandom = Read32(file);
+    settings_.CodeLength = Read16(file);
+    settings_.prBlockOption = Read32(file);
+    settings_.prEqBlockSize = ReadValue(file);
+    settings_.prUnEqBlockSize = ReadValue(file);
+    mnuOutput_Click(Read16(file), menu_, settings_);
+}
+
+} // namespace orvane

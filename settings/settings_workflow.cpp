@@ -1,0 +1,66 @@
+#include "settings/settings_workflow.h"
+
+#include "output/glb_util.h"
+#include "platform/failure.h"
+
+namespace orvane {
+
+namespace {
+
+constexpr const char* SavedSettings = "saved.stg";
+constexpr const char* OfferedName = "settings";
+constexpr const char* SettingsFilter = "Settings file (*.stg)|*.stg";
+
+} // namespace
+
+void SettingsWorkflow::AtStart() {
+    file_.SetSettings(desktop_.BesideProgram(SavedSettings), false);
+}
+
+void SettingsWorkflow::AtEnd() {
+    const std::string path = desktop_.BesideProgram(SavedSettings);
+    try {
+        desktop_.FileSystem.Delete(path);
+    } catch (const Failure&) {
+        // The file may be missing; what else is in the way is in the way of the writing too, which reports
+        // it.
+    }
+    file_.SaveSettings(path, false, Unmappable::QuestionMark);
+}
+
+void SettingsWorkflow::LoadSettings() {
+    file_.SetSettings(GetSettingsFile(), true);
+}
+
+void SettingsWorkflow::SaveSettingsAs() {
+    const std::string path = GetSaveAsFile();
+    if (!path.empty())
+        file_.SaveSettings(path, true, Unmappable::Fail);
+}
+
+std::string SettingsWorkflow::GetSettingsFile() {
+    std::string path;
+    WithFailurePath(desktop_.Messages, true, [&] {
+        CMDialog_.FileName = OfferedName;
+        CMDialog_.DialogTitle = "Select the Settings file";
+        CMDialog_.Filter = SettingsFilter;
+        CMDialog_.ShowOpen();
+        path = CMDialog_.FileName;
+    });
+    return path;
+}
+
+std::string SettingsWorkflow::GetSaveAsFile() {
+    std::string path;
+    WithFailurePath(desktop_.Messages, true, [&] {
+        CMDialog_.Flags = CommonDialog::OverwritePrompt;
+        CMDialog_.FileName = OfferedName;
+        CMDialog_.DialogTitle = "Save Settings As...";
+        CMDialog_.Filter = SettingsFilter;
+        CMDialog_.ShowSave();
+        path = CMDialog_.FileName;
+    });
+    return path;
+}
+
+} // namespace orvane
