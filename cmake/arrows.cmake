@@ -3,6 +3,8 @@
 #   forms > settings > output > options > engine > platform (interfaces)
 #   forms/main.cpp alone puts in platform/qt and platform/linux, which see the interfaces only
 
+cmake_minimum_required(VERSION 3.25)
+
 set(engine platform)
 set(options engine ${engine})
 set(output options ${options})

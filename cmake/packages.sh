@@ -20,7 +20,8 @@ need() {
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
 }
 
-# To build the program, to run it, and to drive it on a display of its own.
+# To build the program, to run it, to test it, and to drive it on a display of its own.
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libglib2.0-dev)
 run_packages=(shared-mime-info fonts-dejavu-core)
+test_packages=(libgtest-dev chromium)
 display_packages=(xvfb openbox xdotool xclip imagemagick x11-utils)

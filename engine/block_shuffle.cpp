@@ -2,7 +2,6 @@
 
 #include "engine/numbers.h"
 #include "engine/random_draws.h"
-#include "engine/vector_kernels.h"
 
 #include <algorithm>
 #include <array>
@@ -32,13 +31,13 @@ std::vector<std::uint8_t> DealGroups(std::size_t size, std::int16_t numberOfGrou
     return groups;
 }
 
-void ShuffleBlock(UniformSource& random, std::span<std::uint8_t> groups) {
-    std::array<std::int16_t, 4 * BatchValues> positions;
+void ShuffleBlock(UniformSource& random, std::span<std::uint8_t> groups, const VectorKernels& kernels) {
+    alignas(CacheLine) std::array<std::int16_t, 4 * BatchValues> positions;
     auto valuesLeft = 2 * static_cast<std::size_t>(CountExchanges(groups.size()));
     while (valuesLeft > 0) {
         const auto next = std::span(positions).first(std::min(valuesLeft, positions.size()));
         // Drawn from 0 where the position of the draw counts from 1: the lower end is added and no more.
-        DrawRandomInts(random, 0, static_cast<std::int16_t>(groups.size() - 1), next);
+        DrawRandomInts(random, 0, static_cast<std::int16_t>(groups.size() - 1), next, kernels);
         ExchangePositions(groups, next);
         valuesLeft -= next.size();
     }

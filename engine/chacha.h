@@ -1,5 +1,5 @@
-// The block function of ChaCha, the stream cipher of D. J. Bernstein: sixteen words in, sixteen words out, and
-// no way back without the key.
+// The block function of ChaCha, the stream cipher of D. J. Bernstein: sixteen words in, sixteen words out,
+// and no way back without the key.
 #pragma once
 
 #include "engine/compiler.h"
@@ -30,9 +30,10 @@ ORVANE_INLINE void QuarterRound(ChaChaWords& x, std::size_t a, std::size_t b, st
     x[b] = std::rotl(x[b] ^ x[c], 7);
 }
 
-/// Two rounds at a time, first down the columns, then along the diagonals. Written as a recursion, which leaves
-/// no loop: a loop over blocks around it is then one that the compiler can vectorise.
-template <int Rounds> ORVANE_INLINE void ChaChaRounds(ChaChaWords& x) {
+/// Two rounds at a time, first down the columns, then along the diagonals. Written as a recursion, which
+/// leaves no loop: a loop over blocks around it is then one that the compiler can vectorise.
+template <int Rounds>
+ORVANE_INLINE void ChaChaRounds(ChaChaWords& x) {
     static_assert(Rounds % 2 == 0);
     if constexpr (Rounds > 0) {
         QuarterRound(x, 0, 4, 8, 12);
@@ -48,7 +49,8 @@ template <int Rounds> ORVANE_INLINE void ChaChaRounds(ChaChaWords& x) {
 }
 
 /// The block of `input`. With 20 rounds it is that of RFC 8439.
-template <int Rounds> ORVANE_INLINE ChaChaWords ChaChaBlock(const ChaChaWords& input) {
+template <int Rounds>
+ORVANE_INLINE ChaChaWords ChaChaBlock(const ChaChaWords& input) {
     ChaChaWords x = input;
     ChaChaRounds<Rounds>(x);
     for (std::size_t word = 0; word < x.size(); ++word)

@@ -1,5 +1,6 @@
 // What the compiler has to be told, in one place: what must be inlined, and for which machines a function is
-// compiled beside the one that every machine runs. A compiler that knows none of this builds the plain version.
+// compiled beside the one that every machine runs. A compiler that knows none of this builds the plain
+// version.
 #pragma once
 
 #if defined(__GNUC__)

@@ -1,7 +1,6 @@
 #include "engine/random_draws.h"
 
 #include "engine/numbers.h"
-#include "engine/vector_kernels.h"
 
 #include <algorithm>
 #include <array>
@@ -15,11 +14,11 @@ std::int16_t DrawRandomInt(UniformSource& source, std::int16_t Lo, std::int16_t 
     return Add16(R, Lo);
 }
 
-void DrawRandomInts(UniformSource& source, std::int16_t Lo, std::int16_t Hi, std::span<std::int16_t> draws) {
+void DrawRandomInts(UniformSource& source, std::int16_t Lo, std::int16_t Hi, std::span<std::int16_t> draws,
+                    const VectorKernels& kernels) {
     // Some batches of the source, and few enough values to stay in the machine's innermost cache.
-    std::array<float, 4 * BatchValues> values;
+    alignas(CacheLine) std::array<float, 4 * BatchValues> values;
     const std::int16_t W = Subtract16(Hi, Lo);
-    const VectorKernels& kernels = BestKernels();
     while (!draws.empty()) {
         const std::size_t count = std::min(draws.size(), values.size());
         const auto next = std::span(values).first(count);

@@ -7,8 +7,8 @@ namespace orvane {
 
 namespace {
 
-// The last four words of a block's input: the counter of the blocks of values (64 bits), the value of a reseed,
-// and what the block is for.
+// The last four words of a block's input: the counter of the blocks of values (64 bits), the value of a
+// reseed, and what the block is for.
 constexpr std::size_t ReseedValueAt = 14;
 constexpr std::size_t PurposeAt = 15;
 constexpr std::uint32_t ForValues = 0;
@@ -56,7 +56,8 @@ void RandomSource::UniformReseed(float value) {
     next_ = BatchValues - ReseedValues;
     const auto first = UniformValues(block[8], block[9], block[10]);
     const auto second = UniformValues(block[11], block[12], block[13]);
-    const auto to = std::copy(first.begin(), first.end(), prepared_.begin() + static_cast<std::ptrdiff_t>(next_));
+    const auto to =
+        std::copy(first.begin(), first.end(), prepared_.begin() + static_cast<std::ptrdiff_t>(next_));
     const auto last = std::copy(second.begin(), second.end(), to);
     last[0] = UniformValue(block[14]);
     last[1] = UniformValue(block[15]);

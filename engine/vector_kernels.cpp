@@ -20,13 +20,14 @@ ORVANE_INLINE void UniformBatch(const ChaChaWords& first, std::span<float, Batch
             for (std::size_t i = 0; i < 4; ++i)
                 values[(4 * group + i) * BatchBlocks + block] = four[i];
         }
+        values[(BlockValues - 1) * BatchBlocks + block] = UniformValue(words[15]);
     }
 }
 
-// Both ways add a number so large that the sum has no room for a fraction: the one rounding to nearest, ties to
-// even, that the sum takes is the rounding wanted, and the whole number stands in the low bits of the sum. A
-// product of 24 and 15 bits is exact in a 64-bit float; where a machine rounds product and sum but once, 32 bits
-// are enough.
+// Both ways add a number so large that the sum has no room for a fraction: the one rounding to nearest, ties
+// to even, that the sum takes is the rounding wanted, and the whole number stands in the low bits of the sum.
+// A product of 24 and 15 bits is exact in a 64-bit float; where a machine rounds product and sum but once, 32
+// bits are enough.
 template <Rounding rounding>
 ORVANE_INLINE void ScaleToRange(std::span<const float> values, std::int16_t Lo, std::int16_t range,
                                 std::span<std::int16_t> draws) {

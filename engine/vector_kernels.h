@@ -19,9 +19,13 @@ inline constexpr std::size_t ChaChaCounterAt = 12;
 
 /// Blocks that are made side by side.
 inline constexpr std::size_t BatchBlocks = 16;
-/// Values of a block: three words hold the bits of four values, and the sixteenth word is left over.
-inline constexpr std::size_t BlockValues = 20;
+/// Values of a block: three words hold the bits of four values, the sixteenth word those of one.
+inline constexpr std::size_t BlockValues = 21;
 inline constexpr std::size_t BatchValues = BatchBlocks * BlockValues;
+
+/// Arrays that the loops run over start at a multiple of this many bytes: a vector that lies across two lines
+/// of the cache costs double.
+inline constexpr std::size_t CacheLine = 64;
 
 /// The value whose 24 bits are the upper ones of `word`.
 ORVANE_INLINE float UniformValue(std::uint32_t word) {
