@@ -4,7 +4,7 @@
 #include "engine/random_draws.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -32,10 +32,10 @@ std::vector<std::uint8_t> DealGroups(std::size_t size, std::int16_t numberOfGrou
 }
 
 void ShuffleBlock(UniformSource& random, std::span<std::uint8_t> groups, const VectorKernels& kernels) {
-    alignas(CacheLine) std::array<std::int16_t, 4 * BatchValues> positions;
+    alignas(CacheLine) std::int16_t positions[4 * BatchValues];
     auto valuesLeft = 2 * static_cast<std::size_t>(CountExchanges(groups.size()));
     while (valuesLeft > 0) {
-        const auto next = std::span(positions).first(std::min(valuesLeft, positions.size()));
+        const auto next = std::span(positions).first(std::min(valuesLeft, std::size(positions)));
         // Drawn from 0 where the position of the draw counts from 1: the lower end is added and no more.
         DrawRandomInts(random, 0, static_cast<std::int16_t>(groups.size() - 1), next, kernels);
         ExchangePositions(groups, next);

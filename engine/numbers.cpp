@@ -126,9 +126,10 @@ class DecimalText {
         const std::size_t lead = mantissa_.find_first_not_of("0.");
         if (lead == std::string::npos)
             return false;
-        std::int64_t exponent = 0;
+        std::int32_t exponent = 0;
         const auto read = std::from_chars(exponent_.data(), exponent_.data() + exponent_.size(), exponent);
-        if (read.ec == std::errc::result_out_of_range)
+        const bool countsMoreThanTheDigits = read.ec == std::errc::result_out_of_range;
+        if (countsMoreThanTheDigits)
             return exponent_.front() != '-';
         return static_cast<std::int64_t>(pointAt_) - static_cast<std::int64_t>(lead) + exponent > 0;
     }
@@ -193,10 +194,29 @@ bool IsAboveSampleSizes(std::string_view text) {
 }
 
 std::string SevenDigits(float value) {
+    if (value == 0)
+        return "0";
+    // d.dddddde+xx: the digits that count, and the place of the point among them.
     std::array<char, 32> buffer{};
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, 7).ptr;
-    return {buffer.data(), end};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
+                                   std::chars_format::scientific, 6)
+                         .ptr;
+    const std::string_view scientific(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+    const std::size_t mark = scientific.find('e');
+    int exponent = 0;
+    const std::size_t sign = scientific[mark + 1] == '+' ? 1 : 0;
+    std::from_chars(scientific.data() + mark + 1 + sign, end, exponent);
+
+    std::string digits(1, scientific[0]);
+    digits += scientific.substr(2, mark - 2);
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (exponent < 0)
+        digits.insert(0, "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0'));
+    else if (const auto whole = static_cast<std::size_t>(exponent) + 1; whole < digits.size())
+        digits.insert(whole, 1, '.');
+    else
+        digits.append(whole - digits.size(), '0');
+    return (value < 0 ? "-" : "") + digits;
 }
 
 std::string FourDecimals(float value) {

@@ -42,7 +42,8 @@ std::int16_t SampleSizeOf(std::string_view text);
 /// Whether the text stands for a number above the range of a sample size.
 bool IsAboveSampleSizes(std::string_view text);
 
-/// Decimal text of at most 7 significant digits: 0.05 gives "0.05", 0 gives "0".
+/// Decimal text of at most 7 significant digits without an exponent: 0.05 gives "0.05", 0 gives "0". `value` is
+/// finite.
 std::string SevenDigits(float value);
 
 /// The picture "0.####": a digit before the point, up to four behind it, rounded, trailing zeros dropped.

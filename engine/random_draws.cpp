@@ -3,7 +3,7 @@
 #include "engine/numbers.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 namespace orvane {
 
@@ -17,10 +17,10 @@ std::int16_t DrawRandomInt(UniformSource& source, std::int16_t Lo, std::int16_t 
 void DrawRandomInts(UniformSource& source, std::int16_t Lo, std::int16_t Hi, std::span<std::int16_t> draws,
                     const VectorKernels& kernels) {
     // Some batches of the source, and few enough values to stay in the machine's innermost cache.
-    alignas(CacheLine) std::array<float, 4 * BatchValues> values;
+    alignas(CacheLine) float values[4 * BatchValues];
     const std::int16_t W = Subtract16(Hi, Lo);
     while (!draws.empty()) {
-        const std::size_t count = std::min(draws.size(), values.size());
+        const std::size_t count = std::min(draws.size(), std::size(values));
         const auto next = std::span(values).first(count);
         source.UniformFill(next);
         kernels.ScaleToRange(next, Lo, W, draws.first(count));

@@ -57,6 +57,8 @@ RunsTestResult GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& m
 }
 
 RunsCounts CountRuns(std::span<const std::int16_t> IntArr) {
+    if (IntArr.empty())
+        return {0, 0, 0};
     const std::vector<std::int16_t> flags = FlagsOf(IntArr);
     RunsCounts counts{0, 0, 1};
     std::int16_t current = flags.front();
@@ -88,8 +90,6 @@ float RunsPValue(float z) {
 }
 
 bool CanPassRunsTest(std::span<const std::int16_t> IntArr, float sigLevel) {
-    if (IntArr.empty())
-        return false;
     RunsCounts counts = CountRuns(IntArr);
     if (!HasStatistic(counts))
         return false;

@@ -30,7 +30,7 @@ struct RunsCounts {
     std::int32_t n1;   ///< positions at or above the mean
     std::int16_t runs; ///< runs of equal flags in position order
 };
-/// `IntArr` has at least one entry.
+/// Throws an Overflow failure for more than 32767 runs.
 RunsCounts CountRuns(std::span<const std::int16_t> IntArr);
 
 /// The test statistic of these counts (Wald and Wolfowitz 1940, without continuity correction). Throws an

@@ -12,9 +12,9 @@
 namespace orvane {
 namespace {
 
-/// A block that can pass does so after a few attempts. This many in vain mean that the source hands out no
-/// random values.
-constexpr int MostAttempts = 100'000;
+/// Of the arrangements of a block that can pass, about one in twenty or more does at any level. This many
+/// attempts in vain mean that the source hands out no random values.
+constexpr int MostAttempts = 2000;
 
 /// The cells of a block's table, row by row, of what `positions` hold: position 1 in the first column of the
 /// first row, position 2 below it.
@@ -39,8 +39,7 @@ std::vector<std::string> LayOut(std::vector<std::string> positions, std::int16_t
 void SequenceBuilder::BuildSequenceArr(std::vector<std::string>& ArrStr,
                                        std::vector<std::string>& BlockCodeArr, std::int16_t OffSet) {
     const std::size_t size = ArrStr.size();
-    const auto first = static_cast<std::size_t>(OffSet);
-    if (size == 0 || first + size > results_.CodeArr.size())
+    if (size == 0 || OffSet < 0 || static_cast<std::size_t>(OffSet) + size > results_.CodeArr.size())
         throw Failure("A block of the list has no positions or no codes.", failure_number::InvalidArgument,
                       "BuildSequenceArr");
 
@@ -95,10 +94,13 @@ bool SequenceBuilder::IsAccepted(std::span<const std::int16_t> numbers) {
         results_.MinPValue = std::min(results_.MinPValue, result.PValue);
         return true;
     }
-    if (!result.Computed || !CanPassRunsTest(numbers, settings_.SigLevel))
+    if (!CanPassRunsTest(numbers, settings_.SigLevel))
         throw Failure("a block of " + std::to_string(numbers.size()) +
                           " subjects cannot pass the Runs test at level " + SevenDigits(settings_.SigLevel),
                       failure_number::CannotPassRunsTest, "BuildSequenceArr");
+    if (!result.Computed)
+        throw Failure("the Runs test of a block could not be done", failure_number::OutOfMemory,
+                      "BuildSequenceArr");
     return false;
 }
 

@@ -15,7 +15,7 @@ constexpr std::int16_t MixedCharacters = 36;
 
 /// A code that is taken is drawn again. The rarest code that a short length leaves free comes up more often
 /// than once in 200,000 draws, so this many in vain mean that the source hands out no random values.
-constexpr int MostDrawsForOneCode = 20'000'000;
+constexpr int MostDrawsForOneCode = 5'000'000;
 
 const AlphaNumTable& AlphaNumChar() {
     static const AlphaNumTable table = BuildAlphaNumChar();
@@ -98,6 +98,8 @@ void CreateCodeArr(const ListSettings& settings, ListResults& results, UniformSo
 }
 
 std::int32_t CodesAvailable(std::int32_t alphaNum, std::int32_t seqRandom, std::int16_t length) {
+    if (length < 1)
+        return 0; // a code is never empty
     const std::int32_t base = BaseOf(alphaNum);
     std::int32_t codes = 1;
     for (std::int16_t i = 0; i < length && codes <= LargestList; ++i)

@@ -35,9 +35,9 @@ class OutputDocument {
     /// Deletes the file if it is temporary; that it cannot be deleted is ignored.
     void Form_Unload();
 
-    /// Bytes that the window shows of a file, line ends included; a larger file is a TooLarge failure behind
-    /// them.
-    static constexpr std::size_t LargestFile = std::size_t{1} << 26U;
+    /// Bytes of UTF-8 text that the window shows of a file, line ends included; a larger file is a TooLarge
+    /// failure behind them.
+    static constexpr std::size_t LargestFile = std::size_t{1} << 24U;
 
   private:
     void ReadInto(OutputText& text);

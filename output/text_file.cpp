@@ -55,7 +55,17 @@ TextFileReader::TextFileReader(std::unique_ptr<InputFile> file, const CodePage& 
     : file_(std::move(file)), page_(page), path_(std::move(path)) {}
 
 bool TextFileReader::AtEnd() {
+    SkipLineFeed();
     return next_ == buffer_.size() && !Fill();
+}
+
+// Only when more is asked for: a line that has been read is not lost when what follows it cannot be.
+void TextFileReader::SkipLineFeed() {
+    if (!behindReturn_ || (next_ == buffer_.size() && !Fill()))
+        return;
+    behindReturn_ = false;
+    if (buffer_[next_] == '\n')
+        ++next_;
 }
 
 std::string TextFileReader::ReadLine() {
@@ -75,8 +85,7 @@ std::string TextFileReader::ReadLine() {
                       "reading a line");
     std::string line = page_.Decode(std::string_view(buffer_).substr(next_, length));
     next_ += length + (ended ? 1 : 0);
-    if (ended && !AtEnd() && buffer_[next_] == '\n')
-        ++next_;
+    behindReturn_ = ended;
     return line;
 }
 

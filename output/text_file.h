@@ -46,9 +46,10 @@ class TextFileReader {
     /// failure for a line of more than LongestLine bytes.
     std::string ReadLine();
 
-    static constexpr std::size_t LongestLine = std::size_t{1} << 24U;
+    static constexpr std::size_t LongestLine = std::size_t{1} << 16U;
 
   private:
+    void SkipLineFeed();
     /// Adds a chunk of the file to what is left in the buffer, which moves to its start. False at the end.
     bool Fill();
 
@@ -57,6 +58,7 @@ class TextFileReader {
     std::string path_;
     std::string buffer_;
     std::size_t next_ = 0;
+    bool behindReturn_ = false; ///< an LF that comes next belongs to the line already read
 };
 
 } // namespace orvane

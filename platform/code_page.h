@@ -17,9 +17,9 @@ enum class Unmappable {
 
 class CodePage {
   public:
-    /// `name` for messages, such as "Windows-1252"; `characters[b]` the character of byte b. A byte that the
-    /// page leaves undefined stands for the control character of the same number, so that every byte makes
-    /// the round trip.
+    /// `name` for messages, such as "Windows-1252"; `characters[b]` the character of byte b, no two
+    /// alike, so that every byte makes the round trip. A byte that the page leaves undefined stands for the
+    /// control character of the same number, or, from A0 on, where there is none, for a private character.
     CodePage(std::string name, const std::array<char32_t, 256>& characters);
 
     [[nodiscard]] const std::string& Name() const { return name_; }

@@ -1,6 +1,6 @@
 // Files of the desktop: bytes in, bytes out. Regular files only; a folder, a device or a pipe is a failure at
 // once. Every failure names the path and says whether opening, reading, writing or closing went wrong; its
-// number is the operating system's own.
+// number is the operating system's own, or NotARegularFile.
 #pragma once
 
 #include <cstddef>

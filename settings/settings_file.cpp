@@ -64,7 +64,10 @@ void SettingsFile::RequireWritableTexts() const {
         if (text.find('\r') != std::string::npos)
             throw Failure("A line end cannot be saved within a line of a settings file",
                           failure_number::UnmappableCharacter, "SaveSettings");
-        static_cast<void>(desktop_.Page.Encode(text, Unmappable::Fail));
+        if (desktop_.Page.Encode(text, Unmappable::Fail).size() > TextFileReader::LongestLine)
+            throw Failure(
+                "A text of more than 65536 characters cannot be saved in a settings file, please shorten it",
+                failure_number::TooLarge, "SaveSettings");
     };
     for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g)
         require(groupNames_.TextMatrix(g, 1));

@@ -57,12 +57,14 @@ TEST(Numbers, TheLongestStartOfATextThatIsANumberCounts) {
         {"1\u00a02", 1},
         {"0x10", 0},
         {"1e-99999999999999999999", 0},
+        {"0.1e-9223372036854775808", 0},
         {"0.0000001e10", 1000},
         {"9007199254740993", 9007199254740992.0},
     };
     for (const auto& row : rows)
         EXPECT_EQ(NumericValue(row.text), row.value) << row.text;
     EXPECT_EQ(NumericValue(std::string(100'000, '0') + "1"), 1);
+    EXPECT_EQ(NumericValue("0." + std::string(700, '0') + "1e300"), 0);
 }
 
 TEST(Numbers, ADecimalCommaInTheDesktopsLocaleChangesNothing) {
@@ -76,7 +78,8 @@ TEST(Numbers, ADecimalCommaInTheDesktopsLocaleChangesNothing) {
 }
 
 TEST(Numbers, ANumberBeyondAnyFloatIsAFailureAndKeepsItsSign) {
-    for (const std::string text : {"1e400", "-1e400", "1e99999999999999999999", "123456e305"}) {
+    for (const std::string text :
+         {"1e400", "-1e400", "1e99999999999999999999", "123456e305", "123e9223372036854775807"}) {
         EXPECT_THROW(NumericValue(text), Failure) << text;
         EXPECT_EQ(NumericValueOrInfinity(text) < 0, text[0] == '-') << text;
         EXPECT_TRUE(std::isinf(NumericValueOrInfinity(text))) << text;
@@ -146,7 +149,7 @@ TEST(Numbers, NumbersAreShownByTheirPictures) {
                 {1, "1", "1"},
                 {0.3F, "0.3", "0.3"},
                 {0.398942280F, "0.3989423", "0.3989"},
-                {0.00004F, "4e-05", "0"},
+                {0.00004F, "0.00004", "0"},
                 {0.1F, "0.1", "0.1"},
                 {0.03125F, "0.03125", "0.0313"},
                 {0.00996F, "0.00996", "0.01"}};
@@ -154,6 +157,15 @@ TEST(Numbers, NumbersAreShownByTheirPictures) {
         EXPECT_EQ(SevenDigits(row.value), row.seven);
         EXPECT_EQ(FourDecimals(row.value), row.four);
     }
+}
+
+TEST(Numbers, SevenDigitsNeedNoExponent) {
+    EXPECT_EQ(SevenDigits(std::numeric_limits<float>::max()), "3402823" + std::string(32, '0'));
+    EXPECT_EQ(SevenDigits(-1234.5678F), "-1234.568");
+    EXPECT_EQ(SevenDigits(-0.0F), "0");
+    EXPECT_EQ(SevenDigits(1e-10F), "0.0000000001");
+    for (const float value : {0.1F, 3.141593F, 123456.7F, 2.5e-7F, 8e12F})
+        EXPECT_EQ(static_cast<float>(NumericValue(SevenDigits(value))), value);
 }
 
 TEST(Text, CharactersAreCountedNotBytes) {

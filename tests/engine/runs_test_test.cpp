@@ -65,6 +65,21 @@ TEST(RunsTest, GivesThePValuesOfSmallBlocks) {
         EXPECT_NEAR(GetRandomness(Numbers(row.block), desktop.messages).PValue, row.p, 5e-5F) << row.block;
 }
 
+TEST(RunsTest, ExpectedRunsAndStatisticAreStoredAs32BitFloats) {
+    EXPECT_EQ(RunsPValue(RunsStatistic({1, 2, 2})), 0.310696602F);
+    EXPECT_EQ(RunsPValue(RunsStatistic({1, 4, 3})), 0.285854578F);
+}
+
+TEST(RunsTest, AFailureOfAnotherKindShowsNoMessage) {
+    FakeDesktop desktop;
+    std::vector<std::int16_t> tooManyRuns(40'000);
+    for (std::size_t i = 0; i < tooManyRuns.size(); ++i)
+        tooManyRuns[i] = static_cast<std::int16_t>(1 + i % 2);
+    EXPECT_FALSE(GetRandomness(tooManyRuns, desktop.messages).Computed);
+    EXPECT_FALSE(GetRandomness({}, desktop.messages).Computed);
+    EXPECT_EQ(desktop.messages.Take(), "Insufficient memory to perform statistics") << "of the empty block";
+}
+
 TEST(RunsTest, TheMiddleGroupCountsWithTheUpperOne) {
     const RunsCounts counts = CountRuns(Numbers("123123"));
     EXPECT_EQ(counts.n0, 2);

@@ -1,6 +1,7 @@
 #include "engine/sequence_builder.h"
 
 #include "engine/random_source.h"
+#include "engine/runs_test.h"
 #include "fakes/desktop.h"
 #include "platform/failure.h"
 
@@ -114,6 +115,7 @@ TEST(SequenceBuilder, ARejectedArrangementIsShuffledFurther) {
     bench.desktop.random.List(values);
     EXPECT_EQ(bench.Build(4), (std::vector<std::string>{"c1 A", "c2 B", "c3 B", "c4 A"}));
     EXPECT_EQ(bench.desktop.random.ReseededAt, (std::vector<std::size_t>{0, 320}));
+    EXPECT_EQ(bench.desktop.random.Reseeds, std::vector<float>(2, bench.desktop.clock.Seconds));
     EXPECT_EQ(bench.desktop.random.Consumed, 640U);
     EXPECT_FLOAT_EQ(bench.results.MinPValue, 0.3989423F) << "the rejected attempt leaves no trace";
     EXPECT_EQ(bench.results.MaxPValue, bench.results.MinPValue);
@@ -151,12 +153,27 @@ TEST(SequenceBuilder, ABlockThatCannotPassIsAFailureAndNeverHangs) {
     }
 }
 
+TEST(SequenceBuilder, AnEqualPValueIsRejectedAndAStuckSourceDoesNotHang) {
+    Bench bench({"A", "B"});
+    bench.settings.PerformRuns = true;
+    const std::vector<std::int16_t> dealt{1, 2, 1, 2};
+    bench.settings.SigLevel = GetRandomness(dealt, bench.desktop.messages).PValue;
+    try {
+        bench.Build(4);
+        ADD_FAILURE() << "an equal P value passed";
+    } catch (const Failure& failure) {
+        EXPECT_NE(failure.Description.find("2000 attempts"), std::string::npos);
+    }
+    EXPECT_EQ(bench.desktop.random.Consumed, 2000U * 320U);
+}
+
 TEST(SequenceBuilder, ABlockTooLargeToCountItsExchangesIsAFailure) {
     Bench bench({"A", "B"});
     bench.results.CodeArr.assign(14655, "c");
     EXPECT_THROW(bench.Build(14655), Failure);
     EXPECT_THROW(bench.Build(0), Failure);
     EXPECT_THROW(bench.Build(4, 14652), Failure) << "no codes left";
+    EXPECT_THROW(bench.Build(4, -1), Failure);
     EXPECT_EQ(bench.desktop.random.Consumed, 0U);
 }
 

@@ -76,6 +76,9 @@ TEST(SubjectCodes, ACodeThatIsTakenIsDrawnAgainWithItsReseed) {
     CreateCodeArr(Settings(Numeric, Random, 1), results, desktop.random, desktop.clock);
     EXPECT_EQ(results.CodeArr, (std::vector<std::string>{"7", "8"}));
     EXPECT_EQ(desktop.random.ReseededAt, (std::vector<std::size_t>{0, 1, 2, 3}));
+
+    fakes::ListedSource stuck;
+    EXPECT_THROW(CreateCodeArr(Settings(Numeric, Random, 1), results, stuck, desktop.clock), Failure);
 }
 
 TEST(SubjectCodes, EveryCodeOfAShortLengthCanBeUsed) {
@@ -103,7 +106,8 @@ TEST(SubjectCodes, AListThatNeedsMoreCodesThanThereAreIsRefusedAtOnce) {
         std::int32_t available;
     } rows[] = {{Numeric, Sequential, 3, 999}, {Numeric, Random, 3, 1000}, {Alpha, Sequential, 2, 675},
                 {Alpha, Random, 2, 676},       {Mixed, Sequential, 1, 35}, {Mixed, Random, 2, 1296},
-                {Mixed, Random, 10, 32768},    {Numeric, Sequential, 0, 0}};
+                {Mixed, Random, 10, 32768},    {Numeric, Sequential, 0, 0},
+                {Mixed, Random, 0, 0}};
     FakeDesktop desktop;
     for (const auto& row : rows) {
         EXPECT_EQ(CodesAvailable(row.alphaNum, row.seqRandom, row.length), row.available);

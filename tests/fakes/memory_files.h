@@ -22,7 +22,9 @@ class MemoryFiles : public Files {
     /// Bytes that all writes together may write; the write that passes it writes what fits and fails.
     std::size_t Capacity = std::numeric_limits<std::size_t>::max();
     bool CloseFails = false;
-    bool ReadFails = false;
+    /// Bytes that all reads together may read; the read that would pass it gives what is left, the next
+    /// fails.
+    std::size_t ReadableBytes = std::numeric_limits<std::size_t>::max();
     bool CopyFails = false;
     std::vector<std::string>
         Log;      ///< "create path", "replace path", "read path", "delete path", "copy from to"
@@ -110,9 +112,10 @@ class MemoryFiles : public Files {
         Input& operator=(const Input&) = delete;
         ~Input() override { --files_.Open; }
         std::size_t Read(std::span<char> buffer) override {
-            if (files_.ReadFails)
+            if (files_.ReadableBytes == 0)
                 throw Failure("cannot read", IOError, "MemoryFiles");
-            const std::size_t count = std::min(buffer.size(), bytes_.size() - next_);
+            const std::size_t count = std::min({buffer.size(), bytes_.size() - next_, files_.ReadableBytes});
+            files_.ReadableBytes -= count;
             std::copy_n(bytes_.data() + next_, count, buffer.data());
             next_ += count;
             return count;

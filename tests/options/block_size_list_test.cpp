@@ -18,10 +18,10 @@ TEST(BlockSizeList, RefusesWithTheMessagesInOrderAndTheFocusOnTheField) {
         // Beyond 16 bits: at once, whatever stands behind it or beside it in the item.
         {{Please}, {"40000", "32768", "99999999999999999999", "40000-0", "0-40000", "40000,0", "7,40000"}},
         {{Please}, {std::string(400, '9'), "2-32767", "32767-32767", "7-32767,0", "1-32766,1-32766"}},
-        {{Please}, {"2-30000,4-4000", std::string(32766, ' ') + "6"}},
+        {{Please}, {"2-30000,4-4000", "1-32766,2,2", std::string(32766, ' ') + "6"}},
         {{BadValue, Please}, {"0", "000", "6,", ",6", "6,,8", ",", "-4", "4-", "-", "0-4", "4-0", "2-4-6"}},
         {{BadValue, Please}, {"2-40000-6", "--", "7,0", "0,40000", "6,8,5-3,0-0"}},
-        {{Indivisible, Please}, {"6,8,10,12-16", "12-13", "7", "6,7", "1-32766", "32767"}},
+        {{Indivisible, Please}, {"6,8,10,12-16", "12-13", "7", "6,7", "1-32766", "1-32766,2", "32767"}},
     };
     for (const auto& [messages, texts] : rows)
         for (const std::string& text : texts) {

@@ -78,6 +78,7 @@ TEST(OptionValidation, RandomBlocksGoOnUntilTheyPassTheSampleSize) {
         EXPECT_FALSE(bench.validation.NotValidInputs());
         EXPECT_EQ(bench.Drawn(), row.blocks) << row.sampleSize << " in " << row.groups;
         EXPECT_EQ(bench.desktop.random.ReseededAt, std::vector<std::size_t>{0});
+        EXPECT_EQ(bench.desktop.random.Reseeds, std::vector<float>{bench.desktop.clock.Seconds});
     }
     OptionsBench bench;
     bench.Option(RandomBlockSize);
