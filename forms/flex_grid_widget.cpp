@@ -1,0 +1,188 @@
+#include "forms/flex_grid_widget.h"
+
+#include "forms/qt_text.h"
+#include "platform/failure.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr int FontPixels = 13;
+constexpr int FixedColumnPixels = 64;
+constexpr int CellMargin = 3;
+/// More of a long text would not show, and measuring it would take time.
+constexpr int LongestShown = 500;
+constexpr std::int16_t FixedColumn = 0;
+constexpr std::int16_t PickedColumn = 1;
+
+class CellPainter : public QStyledItemDelegate {
+  public:
+    explicit CellPainter(FlexGridWidget& grid) : QStyledItemDelegate(&grid), grid_(grid) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const auto [background, foreground] = Colours(option.palette, index);
+        const QString text = index.data().toString().left(LongestShown);
+        const QRect inside = option.rect.adjusted(CellMargin, 0, -CellMargin - 1, -1);
+        painter->save();
+        painter->fillRect(option.rect, background);
+        painter->setPen(QColor(192, 192, 192));
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+        painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
+        painter->setPen(foreground);
+        painter->setFont(option.font);
+        painter->drawText(inside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                          option.fontMetrics.elidedText(text, Qt::ElideRight, inside.width()));
+        painter->restore();
+    }
+
+  private:
+    struct CellColours {
+        QColor background;
+        QColor foreground;
+    };
+    [[nodiscard]] CellColours Colours(const QPalette& palette, const QModelIndex& index) const {
+        if (index.row() == grid_.Row() && index.column() == grid_.Col())
+            return {QColor(255, 0, 0), palette.color(QPalette::Active, QPalette::HighlightedText)};
+        if (index.column() == FixedColumn)
+            return {palette.color(QPalette::Active, QPalette::Button),
+                    palette.color(QPalette::Active, QPalette::ButtonText)};
+        return {palette.color(QPalette::Active, QPalette::Base),
+                palette.color(QPalette::Active, QPalette::Text)};
+    }
+
+    const FlexGridWidget& grid_;
+};
+
+} // namespace
+
+FlexGridWidget::FlexGridWidget(QWidget* parent) : QTableWidget(parent) {
+    QFont cells("Arial");
+    cells.setPixelSize(FontPixels);
+    setFont(cells);
+    setItemDelegate(new CellPainter(*this));
+    viewport()->setBackgroundRole(QPalette::Button);
+    setShowGrid(false);
+    setWordWrap(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setTabKeyNavigation(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    horizontalHeader()->hide();
+    horizontalHeader()->setDefaultSectionSize(FixedColumnPixels);
+    horizontalHeader()->setStretchLastSection(true);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2);
+}
+
+void FlexGridWidget::SetRows(std::int16_t rows) {
+    if (rows < 1)
+        throw Failure("A grid cannot have " + std::to_string(rows) + " rows", failure_number::OutOfRange,
+                      "SetRows");
+    setRowCount(rows);
+    if (row_ >= rows)
+        SelectCell(static_cast<std::int16_t>(rows - 1), col_);
+    else
+        ShowCurrentCell();
+}
+
+void FlexGridWidget::SetText(const std::string& text) {
+    RequireCell(row_, col_);
+    if (item(row_, col_) == nullptr)
+        setItem(row_, col_, new QTableWidgetItem);
+    item(row_, col_)->setText(ToQString(text));
+}
+
+std::string FlexGridWidget::TextMatrix(std::int16_t row, std::int16_t col) const {
+    RequireCell(row, col);
+    const QTableWidgetItem* cell = item(row, col);
+    return cell == nullptr ? std::string() : cell->text().toStdString();
+}
+
+void FlexGridWidget::SelectCell(std::int16_t row, std::int16_t col) {
+    RequireCell(row, col);
+    if (row == row_ && col == col_)
+        return;
+    row_ = row;
+    col_ = col;
+    ShowCurrentCell();
+    if (rowColChange_)
+        rowColChange_();
+}
+
+void FlexGridWidget::PickRow(int row) {
+    const int nearest = std::clamp(row, 0, rowCount() - 1);
+    guard_([this, nearest] { SelectCell(static_cast<std::int16_t>(nearest), PickedColumn); });
+}
+
+void FlexGridWidget::ShowCurrentCell() {
+    setCurrentCell(row_, col_, QItemSelectionModel::NoUpdate);
+    scrollTo(model()->index(row_, col_));
+    viewport()->update();
+}
+
+void FlexGridWidget::RequireCell(std::int16_t row, std::int16_t col) const {
+    if (row < 0 || row >= rowCount() || col < 0 || col >= columnCount())
+        throw Failure("The grid has no cell in row " + std::to_string(row) + ", column " +
+                          std::to_string(col),
+                      failure_number::OutOfRange, "FlexGridWidget");
+}
+
+int FlexGridWidget::RowsOnAPage() const {
+    return std::max(1, viewport()->height() / verticalHeader()->defaultSectionSize());
+}
+
+void FlexGridWidget::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Up:
+        return PickRow(row_ - 1);
+    case Qt::Key_Down:
+        return PickRow(row_ + 1);
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        return PickRow(row_);
+    case Qt::Key_PageUp:
+        return PickRow(row_ - RowsOnAPage());
+    case Qt::Key_PageDown:
+        return PickRow(row_ + RowsOnAPage());
+    case Qt::Key_Home:
+        return PickRow(0);
+    case Qt::Key_End:
+        return PickRow(rowCount() - 1);
+    default:
+        event->ignore();
+    }
+}
+
+void FlexGridWidget::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    pressed_ = true;
+    const int row = rowAt(event->position().toPoint().y());
+    const bool belowTheRows = row < 0;
+    if (!belowTheRows)
+        PickRow(row);
+}
+
+void FlexGridWidget::mouseMoveEvent(QMouseEvent* /*event*/) {
+    // A drag picks nothing.
+}
+
+void FlexGridWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !std::exchange(pressed_, false))
+        return;
+    if (click_ && viewport()->rect().contains(event->position().toPoint()))
+        guard_(click_);
+}
+
+} // namespace orvane

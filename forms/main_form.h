@@ -1,0 +1,70 @@
+// The program's central window.
+#pragma once
+
+#include "forms/event_guard.h"
+#include "platform/common_dialog.h"
+#include "platform/platform.h"
+
+#include <QMainWindow>
+
+#include <cstdint>
+#include <memory>
+
+namespace Ui {
+class Form1;
+}
+
+namespace orvane {
+
+/// Takes the number of groups, their names and the sample size, and leads to every other function. It holds
+/// the one set of list settings, which lives as long as the window.
+class MainForm : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    /// `CMDialog` serves the prompts of lists and settings, `outputDialog` those of the output window.
+    MainForm(Platform& desktop, CommonDialog& CMDialog, CommonDialog& outputDialog);
+    ~MainForm() override;
+    MainForm(const MainForm&) = delete;
+    MainForm& operator=(const MainForm&) = delete;
+
+    /// Shows the window and reads the settings of the last run; that they cannot be read is reported.
+    void Open();
+
+  protected:
+    /// Closing writes the settings for the next run. A close that arrives while the window is at work is
+    /// ignored.
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void Form_Load();
+    void Form_Unload();
+    void nogHsb_Change();
+    void SampSizeTxt_Change();
+    void SampSizeTxt_GotFocus();
+    void cmdGenerate_Click();
+    void mnuFile_Click(std::int16_t Index);
+    void mnuView_Click(std::int16_t Index);
+    void mnuSequence_Click(std::int16_t Index);
+    void mnuOutput_Click(std::int16_t Index);
+    void mnuHelp_Click(std::int16_t Index);
+
+    void LayOut();
+    void ConnectControls();
+    void ConnectGroupNames();
+    void ConnectMenus();
+    void ShowOptions();
+    [[nodiscard]] std::intptr_t WindowHandle() const { return static_cast<std::intptr_t>(winId()); }
+
+    struct Parts;
+
+    Platform& desktop_;
+    CommonDialog& CMDialog_;
+    EventGuard guard_;
+    std::unique_ptr<Ui::Form1> ui_;
+    std::unique_ptr<Parts> parts_;
+    bool exiting_ = false;
+    bool unloaded_ = false;
+};
+
+} // namespace orvane

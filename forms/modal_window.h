@@ -1,0 +1,20 @@
+// What the windows that block all others have in common.
+#pragma once
+
+#include <QDialog>
+
+namespace orvane {
+
+/// A window for one opening: built, shown and destroyed. It has no owner window.
+class ModalWindow : public QDialog {
+  public:
+    /// Shows the window in the middle of the screen and returns when it has closed. Of a double click whose
+    /// first half closed it, the second half reaches no window that lay beneath.
+    void ShowModal();
+
+  protected:
+    /// `flags` say which buttons the frame has. The controls that follow write in the size of the forms.
+    explicit ModalWindow(Qt::WindowFlags flags);
+};
+
+} // namespace orvane

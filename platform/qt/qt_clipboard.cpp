@@ -1,0 +1,91 @@
+#include "platform/qt/qt_clipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QString>
+
+#include <algorithm>
+#include <exception>
+#include <functional>
+#include <string_view>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+constexpr std::uint32_t PlainText = 1;
+
+} // namespace
+
+GlobalHandle QtClipboard::GlobalAlloc(std::uint32_t /*flags*/, std::size_t bytes) {
+    try {
+        blocks_[last_ + 1].bytes.assign(bytes, '\0');
+    } catch (const std::exception&) {
+        blocks_.erase(last_ + 1);
+        return 0;
+    }
+    return ++last_;
+}
+
+char* QtClipboard::GlobalLock(GlobalHandle block) {
+    const auto found = blocks_.find(block);
+    if (found == blocks_.end())
+        return nullptr;
+    ++found->second.locks;
+    return found->second.bytes.data();
+}
+
+void QtClipboard::lstrcpy(char* address, const std::string& text) {
+    for (auto& [handle, block] : blocks_) {
+        char* const begin = block.bytes.data();
+        char* const end = begin + block.bytes.size();
+        if (std::less<>()(address, begin) || !std::less<>()(address, end))
+            continue;
+        const auto room = static_cast<std::size_t>(end - address) - 1;
+        *std::copy_n(text.data(), std::min(room, text.size()), address) = '\0';
+        return;
+    }
+}
+
+std::int32_t QtClipboard::GlobalUnlock(GlobalHandle block) {
+    const auto found = blocks_.find(block);
+    if (found == blocks_.end() || found->second.locks == 0)
+        return 0;
+    return --found->second.locks;
+}
+
+void QtClipboard::GlobalFree(GlobalHandle block) {
+    blocks_.erase(block);
+}
+
+std::int32_t QtClipboard::OpenClipboard() {
+    open_ = QGuiApplication::clipboard() != nullptr;
+    return open_ ? 1 : 0;
+}
+
+void QtClipboard::EmptyClipboard() {
+    if (open_)
+        QGuiApplication::clipboard()->clear();
+}
+
+GlobalHandle QtClipboard::SetClipboardData(std::uint32_t format, GlobalHandle block) {
+    const auto found = blocks_.find(block);
+    if (!open_ || format != PlainText || found == blocks_.end())
+        return 0;
+    const std::vector<char>& bytes = found->second.bytes;
+    const std::string_view text(bytes.data(), bytes.size());
+    const QString content = QString::fromStdString(page_.Decode(text.substr(0, text.find('\0'))));
+    QGuiApplication::clipboard()->setText(content);
+    // The desktop may have refused it.
+    if (QGuiApplication::clipboard()->text() != content)
+        return 0;
+    blocks_.erase(found);
+    return block;
+}
+
+std::int32_t QtClipboard::CloseClipboard() {
+    return std::exchange(open_, false) ? 1 : 0;
+}
+
+} // namespace orvane

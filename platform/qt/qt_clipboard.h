@@ -1,0 +1,44 @@
+// The clipboard of the toolkit behind blocks of memory.
+#pragma once
+
+#include "platform/clipboard.h"
+#include "platform/code_page.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace orvane {
+
+/// The bytes of a block are characters of the code page; the clipboard of the desktop gets them as text.
+class QtClipboard : public Clipboard {
+  public:
+    explicit QtClipboard(const CodePage& page) : page_(page) {}
+
+    GlobalHandle GlobalAlloc(std::uint32_t flags, std::size_t bytes) override;
+    char* GlobalLock(GlobalHandle block) override;
+    /// Never writes behind the end of the block that holds `address`.
+    void lstrcpy(char* address, const std::string& text) override;
+    std::int32_t GlobalUnlock(GlobalHandle block) override;
+    void GlobalFree(GlobalHandle block) override;
+    std::int32_t OpenClipboard() override;
+    void EmptyClipboard() override;
+    /// The block is freed with the take-over; its text counts up to the terminator.
+    GlobalHandle SetClipboardData(std::uint32_t format, GlobalHandle block) override;
+    std::int32_t CloseClipboard() override;
+
+  private:
+    struct Block {
+        std::vector<char> bytes;
+        std::int32_t locks = 0;
+    };
+
+    const CodePage& page_;
+    std::map<GlobalHandle, Block> blocks_;
+    GlobalHandle last_ = 0;
+    bool open_ = false;
+};
+
+} // namespace orvane

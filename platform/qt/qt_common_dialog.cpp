@@ -1,0 +1,110 @@
+#include "platform/qt/qt_common_dialog.h"
+
+#include "platform/failure.h"
+#include "platform/qt/owner_window.h"
+#include "platform/qt/prompt_filter.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+namespace orvane {
+
+namespace {
+
+constexpr const char* Source = "CommonDialog";
+
+/// Whether the desktop shows its own prompt instead of the toolkit's widgets. To be asked after the show.
+bool IsNative(const QFileDialog& dialog) {
+    return dialog.findChild<QLineEdit*>() == nullptr;
+}
+
+/// The path chosen, before it got the extension of the selected entry.
+QString TypedPath(QFileDialog& dialog) {
+    const QString extension = dialog.defaultSuffix();
+    dialog.setDefaultSuffix({});
+    QString typed = dialog.selectedFiles().value(0);
+    dialog.setDefaultSuffix(extension);
+    return typed;
+}
+
+bool IsOverwriteAccepted(const QString& path) {
+    QMessageBox question(
+        QMessageBox::Warning, QFileDialog::tr("Save As"),
+        QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(QDir::toNativeSeparators(path)),
+        QMessageBox::Yes | QMessageBox::No, OwnerWindow());
+    question.setTextFormat(Qt::PlainText);
+    question.setDefaultButton(QMessageBox::No);
+    return question.exec() == QMessageBox::Yes;
+}
+
+} // namespace
+
+PromptFolder::PromptFolder() : Path(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
+    if (!QFileInfo(Path).isDir())
+        Path = QDir::homePath();
+}
+
+void QtCommonDialog::ShowOpen() {
+    Show(Kind::Open);
+}
+
+void QtCommonDialog::ShowSave() {
+    Show(Kind::Save);
+}
+
+void QtCommonDialog::Show(Kind kind) {
+    input_.DropPendingInput();
+    const PromptFilter filter(Filter, DefaultExt);
+    QFileDialog dialog(OwnerWindow(), QString::fromStdString(DialogTitle));
+    dialog.setAcceptMode(kind == Kind::Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(kind == Kind::Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, (Flags & OverwritePrompt) == 0);
+    dialog.setSupportedSchemes({QStringLiteral("file")});
+    dialog.setNameFilters(filter.Entries());
+    const auto followEntry = [&] {
+        dialog.setDefaultSuffix(kind == Kind::Save ? filter.ExtensionOf(dialog.selectedNameFilter())
+                                                   : QString());
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, followEntry);
+    Offer(dialog);
+    followEntry();
+    QString path;
+    do {
+        const bool accepted = dialog.exec() == QDialog::Accepted;
+        folder_.Path = dialog.directory().absolutePath();
+        if (!accepted)
+            throw Failure("Cancel was selected.", failure_number::Cancelled, Source);
+        followEntry();
+        path = dialog.selectedFiles().value(0);
+    } while (!IsToBeTaken(dialog, path));
+    folder_.Path = QFileInfo(path).absolutePath();
+    FileName = QDir::toNativeSeparators(path).toStdString();
+}
+
+void QtCommonDialog::Offer(QFileDialog& dialog) const {
+    dialog.setDirectory(folder_.Path);
+    dialog.selectNameFilter(dialog.nameFilters().value(0));
+    const QFileInfo offered(QString::fromStdString(FileName));
+    if (offered.isAbsolute() && offered.dir().exists())
+        dialog.setDirectory(offered.dir());
+    if (!offered.fileName().isEmpty())
+        dialog.selectFile(offered.fileName());
+}
+
+bool QtCommonDialog::IsToBeTaken(QFileDialog& dialog, const QString& path) const {
+    if (path.isEmpty())
+        throw Failure("The prompt gave no file name.", failure_number::InvalidArgument, Source);
+    const bool asks = dialog.acceptMode() == QFileDialog::AcceptSave && (Flags & OverwritePrompt) != 0;
+    // The desktop's own prompt has asked about the name as it was typed, not about the one with its
+    // extension.
+    if (!asks || !IsNative(dialog) || TypedPath(dialog) == path || !QFileInfo::exists(path))
+        return true;
+    dialog.selectFile(path);
+    return IsOverwriteAccepted(path);
+}
+
+} // namespace orvane

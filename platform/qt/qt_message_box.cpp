@@ -1,0 +1,73 @@
+#include "platform/qt/qt_message_box.h"
+
+#include "platform/application.h"
+#include "platform/qt/owner_window.h"
+
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QString>
+#include <QStringList>
+
+namespace orvane {
+
+namespace {
+
+constexpr qsizetype MostLines = 16;
+constexpr qsizetype MostCharacters = 1000;
+constexpr qsizetype LongestWord = 80;
+
+QString Gap() {
+    return QStringLiteral(" \u2026 ");
+}
+
+QString WithoutMiddleLines(const QString& text) {
+    const QStringList lines = text.split(u'\n');
+    if (lines.size() <= MostLines)
+        return text;
+    return (lines.mid(0, MostLines / 2) + QStringList(Gap()) + lines.mid(lines.size() - MostLines / 2))
+        .join(u'\n');
+}
+
+QString WithoutMiddleCharacters(const QString& text) {
+    if (text.size() <= MostCharacters)
+        return text;
+    // No character of two units is cut in half.
+    qsizetype first = MostCharacters / 2;
+    qsizetype last = text.size() - MostCharacters / 2;
+    first -= text.at(first).isLowSurrogate() ? 1 : 0;
+    last += text.at(last).isLowSurrogate() ? 1 : 0;
+    return text.left(first) + Gap() + text.mid(last);
+}
+
+/// `text` with places at which a word that is too long for a line can be broken.
+QString WithBreaks(QString text) {
+    static const QRegularExpression tooLong(QStringLiteral("(\\S{%1})(?=\\S)").arg(LongestWord));
+    return text.replace(tooLong, QStringLiteral("\\1\u200B"));
+}
+
+QString Shown(const std::string& text) {
+    QString shown = QString::fromStdString(text);
+    shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    return WithBreaks(WithoutMiddleCharacters(WithoutMiddleLines(shown)));
+}
+
+void Run(QMessageBox::Icon icon, const std::string& text, const std::string& title, QtInputDrain& input) {
+    input.DropPendingInput();
+    QMessageBox box(icon, QString::fromStdString(title), QString(), QMessageBox::Ok, OwnerWindow());
+    box.setObjectName(QStringLiteral("MessageBox"));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(Shown(text));
+    box.exec();
+}
+
+} // namespace
+
+void QtMessageBox::Show(const std::string& text) {
+    Run(QMessageBox::NoIcon, text, ApplicationTitle, input_);
+}
+
+void QtMessageBox::ShowExclamation(const std::string& text, const std::string& title) {
+    Run(QMessageBox::Warning, text, title, input_);
+}
+
+} // namespace orvane

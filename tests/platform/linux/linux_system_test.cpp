@@ -1,0 +1,68 @@
+#include "platform/linux/linux_clock.h"
+#include "platform/linux/linux_entropy.h"
+#include "platform/linux/linux_registry.h"
+#include "platform/linux/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdlib>
+#include <ctime>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace orvane {
+namespace {
+
+TEST(LinuxRegistry, AnswersWithTheFirstSystemInformationProgram) {
+    const TemporaryFolder folder;
+    LinuxRegistry registry;
+    RegistryKey key = 7;
+    const auto open = [&](const char* path) {
+        return registry.RegOpenKeyExA(HKEY_LOCAL_MACHINE_ROOT, path, 0, REGISTRY_ALL_ACCESS, key);
+    };
+    const char* const path = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
+    ::setenv("PATH", (folder.Path("bin") + ":/usr/bin:/bin").c_str(), 1);
+    EXPECT_EQ(open(path), 2);
+    EXPECT_EQ(key, 0U);
+    folder.Put("bin/hardinfo", "", true);
+    const std::string tool = folder.Put("bin/kinfocenter", "", true);
+    EXPECT_EQ(open(R"(SOFTWARE\Microsoft\Shared Tools Location)"), 2);
+    ASSERT_EQ(open(path), 0);
+
+    std::array<char, 1024> buffer{};
+    std::uint32_t type = 0;
+    std::uint32_t size = buffer.size();
+    EXPECT_EQ(registry.RegQueryValueExA(key, "MSINFO", type, buffer, size), 2);
+    size = static_cast<std::uint32_t>(tool.size()); // no room for the terminator
+    EXPECT_EQ(registry.RegQueryValueExA(key, "PATH", type, buffer, size), 234);
+    EXPECT_EQ(registry.RegQueryValueExA(key, "PATH", type, buffer, size), 0);
+    EXPECT_EQ(type, REGISTRY_TYPE_STRING);
+    EXPECT_EQ(std::string(buffer.data(), size), tool + '\0');
+    EXPECT_EQ(registry.RegCloseKey(key), 0);
+}
+
+TEST(LinuxClock, CountsFromLocalMidnight) {
+    for (const auto& [zone, offset] : {std::pair("XXX-5:30", 19800), std::pair("XXX+11", -39600)}) {
+        ::setenv("TZ", zone, 1);
+        ::tzset();
+        const double expected = std::fmod(static_cast<double>(std::time(nullptr)) + offset, 86400.0);
+        const double seconds = LinuxClock().SecondsSinceMidnight();
+        EXPECT_LT(std::fmod(seconds - expected + 86401.0, 86400.0), 5.0) << zone;
+    }
+}
+
+TEST(LinuxEntropy, FillsToTheLastByte) {
+    std::vector<std::byte> bytes(40'000'000); // more than the kernel gives at once
+    LinuxEntropy().Fill(bytes);
+    const auto tail = std::span(bytes).last(32);
+    EXPECT_TRUE(std::any_of(tail.begin(), tail.end(), [](std::byte b) { return b != std::byte{0}; }));
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,41 @@
+// A folder of its own for a test, gone with everything in it at the end.
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+namespace orvane {
+
+class TemporaryFolder {
+  public:
+    TemporaryFolder() : path_(std::filesystem::temp_directory_path() / "orvane-XXXXXX") {
+        ::mkdtemp(path_.data());
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+
+    [[nodiscard]] std::string Path(const std::string& name) const { return path_ + "/" + name; }
+
+    // NOLINTNEXTLINE(modernize-use-nodiscard): often for the file alone
+    std::string Put(const std::string& name, std::string_view content, bool executable = false) const {
+        std::filesystem::create_directories(std::filesystem::path(Path(name)).parent_path());
+        std::ofstream(Path(name), std::ios::binary) << content;
+        if (executable)
+            std::filesystem::permissions(Path(name), std::filesystem::perms::owner_all);
+        return Path(name);
+    }
+    [[nodiscard]] std::string Get(const std::string& name) const {
+        std::ifstream file(Path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+  private:
+    std::string path_;
+};
+
+} // namespace orvane

@@ -1,0 +1,27 @@
+// The toolkit's application for tests that show windows.
+#pragma once
+
+#include <QApplication>
+
+#include <string>
+
+namespace orvane {
+
+/// The one application of the test program, made at the first call. It has no screen unless the environment
+/// names one, and shows the toolkit's own prompts, which tests can fill in.
+inline QApplication& TestApplication() {
+    static QApplication* const application = [] {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+        static std::string name = "tests";
+        static char* arguments[] = {name.data(), nullptr};
+        static int count = 1;
+        // Lives as long as the program: windows of tests that end late still find it.
+        return new QApplication(count, arguments);
+    }();
+    return *application;
+}
+
+} // namespace orvane
