@@ -24,4 +24,4 @@ need() {
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libglib2.0-dev)
 run_packages=(shared-mime-info fonts-dejavu-core)
 test_packages=(libgtest-dev chromium)
-display_packages=(xvfb openbox xdotool xclip imagemagick x11-utils)
+display_packages=(xvfb openbox xdotool xclip imagemagick x11-utils dbus-daemon at-spi2-core)

@@ -11,7 +11,7 @@
 
 namespace orvane {
 
-/// Rounds of the generator: eight are the fewest that no attack comes near, and enough for statistics by far.
+/// Rounds of the generator: the fewest against which no attack is known that beats trying keys.
 inline constexpr int SourceRounds = 8;
 
 /// The word of a block's input that counts the blocks, its low half.

@@ -4,7 +4,6 @@
 #include <QEvent>
 #include <QEventLoop>
 #include <QWidget>
-#include <QWidget>
 
 namespace orvane {
 

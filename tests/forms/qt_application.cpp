@@ -1,27 +1,14 @@
-// The one application object of the window tests.
+// The application object is there before the first test of a window begins.
+
+#include "fakes/qt_application.h"
 
 #include <gtest/gtest.h>
-
-#include <QApplication>
-
-#include <array>
-#include <memory>
 
 namespace {
 
 class QtApplication : public testing::Environment {
   public:
-    void SetUp() override {
-        if (qApp == nullptr)
-            application_ = std::make_unique<QApplication>(count_, arguments_.data());
-    }
-    void TearDown() override { application_.reset(); }
-
-  private:
-    int count_ = 1;
-    std::array<char, 12> name_{"forms_tests"};
-    std::array<char*, 2> arguments_{name_.data(), nullptr};
-    std::unique_ptr<QApplication> application_;
+    void SetUp() override { orvane::TestApplication(); }
 };
 
 const testing::Environment* const environment = testing::AddGlobalTestEnvironment(new QtApplication);

@@ -1,7 +1,7 @@
 #include "platform/qt/qt_clipboard.h"
 
 #include "fakes/desktop.h"
-#include "platform/qt/test_application.h"
+#include "fakes/qt_application.h"
 
 #include <QClipboard>
 

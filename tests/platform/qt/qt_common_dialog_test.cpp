@@ -1,7 +1,7 @@
 #include "platform/qt/qt_common_dialog.h"
 
+#include "fakes/qt_application.h"
 #include "platform/failure.h"
-#include "platform/qt/test_application.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

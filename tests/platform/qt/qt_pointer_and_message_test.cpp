@@ -1,7 +1,7 @@
+#include "fakes/qt_application.h"
 #include "platform/qt/qt_input_drain.h"
 #include "platform/qt/qt_message_box.h"
 #include "platform/qt/qt_mouse_pointer.h"
-#include "platform/qt/test_application.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -51,14 +51,14 @@ class QtPointerAndMessage : public testing::Test {
         PostBlank(window);
         QCoreApplication::postEvent(&window, new QCloseEvent);
     }
-    int Handled() {
+    [[nodiscard]] int Handled() const {
         QCoreApplication::processEvents();
         return window.handled;
     }
 
     /// Runs `use` on the next message box, as soon as it waits for its answer, and presses OK.
     void InBox(std::function<void(QMessageBox&)> use) {
-        watch.callOnTimeout([this, use = std::move(use)] {
+        QObject::connect(&watch, &QTimer::timeout, &watch, [this, use = std::move(use)] {
             if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                 watch.stop();
                 watch.disconnect();
