@@ -13,6 +13,7 @@
 #include "platform/qt/qt_input_drain.h"
 #include "platform/qt/qt_message_box.h"
 #include "platform/qt/qt_mouse_pointer.h"
+#include "platform/qt/qt_second_press.h"
 
 #include <QApplication>
 #include <QDir>
@@ -47,6 +48,7 @@ class Application : public QApplication {
     MousePointer& Pointer() { return pointer_; }
 
   private:
+    QtSecondPress secondPress_;
     QtInputDrain input_;
     QtMessageBox messages_;
     QtMousePointer pointer_;

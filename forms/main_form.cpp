@@ -68,6 +68,10 @@ struct MainForm::Parts {
 MainForm::MainForm(Platform& desktop, CommonDialog& CMDialog, CommonDialog& outputDialog)
     : desktop_(desktop), CMDialog_(CMDialog), guard_(desktop.Messages, desktop.Pointer),
       ui_(std::make_unique<Ui::Form1>()) {
+    // Before there are controls, so that none loads the toolkit's own size of the font first.
+    QFont small = font();
+    small.setPixelSize(FontPixels);
+    setFont(small);
     ui_->setupUi(this);
     parts_ = std::make_unique<Parts>(*ui_, guard_, desktop, CMDialog, outputDialog);
     LayOut();
@@ -79,9 +83,6 @@ MainForm::MainForm(Platform& desktop, CommonDialog& CMDialog, CommonDialog& outp
 MainForm::~MainForm() = default;
 
 void MainForm::LayOut() {
-    QFont small = font();
-    small.setPixelSize(FontPixels);
-    setFont(small);
     setWindowIcon(ApplicationIcon());
     const int menuHeight = ui_->menuBar->isNativeMenuBar() ? 0 : ui_->menuBar->sizeHint().height();
     resize(ClientWidth, ClientHeight + menuHeight);
@@ -96,7 +97,7 @@ void MainForm::ConnectControls() {
             [this] { guard_.Handle([this] { SampSizeTxt_Change(); }); });
     ui_->SampSizeTxt->OnGotFocus([this] { guard_.Handle([this] { SampSizeTxt_GotFocus(); }); });
     connect(ui_->cmdGenerate, &QPushButton::clicked, this,
-            [this] { guard_.Handle([this] { cmdGenerate_Click(); }); });
+            [this] { Command([this] { cmdGenerate_Click(); }); });
     // A default button works by itself in dialogs alone.
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto* enter = new QShortcut(QKeySequence(key), this);
@@ -116,21 +117,25 @@ void MainForm::ConnectGroupNames() {
     ui_->TempTxt->OnGotFocus([this, &names] { guard_.Handle([&names] { names.TempTxt_GotFocus(); }); });
 }
 
+/// Runs a command, unless one is at work: an assistive program reaches also what a window in front blocks.
+void MainForm::Command(const std::function<void()>& command) {
+    if (guard_.IsHandling())
+        parts_->outputItems.Check(parts_->settings.OutputOption);
+    else
+        guard_.Handle(command);
+}
+
 void MainForm::ConnectMenus() {
     const auto connectItem = [this](QAction* item, void (MainForm::*handler)(std::int16_t),
                                     std::int16_t Index) {
-        connect(item, &QAction::triggered, this, [this, handler, Index] {
-            // An assistive program can trigger an item while a command is at work.
-            if (!guard_.IsHandling())
-                guard_.Handle([&] { (this->*handler)(Index); });
-        });
+        connect(item, &QAction::triggered, this,
+                [this, handler, Index] { Command([&] { (this->*handler)(Index); }); });
     };
     connectItem(ui_->mnuFile_0, &MainForm::mnuFile_Click, 0);
     connectItem(ui_->mnuFile_1, &MainForm::mnuFile_Click, 1);
     connectItem(ui_->mnuFile_3, &MainForm::mnuFile_Click, 3);
     connectItem(ui_->mnuView_0, &MainForm::mnuView_Click, 0);
     connectItem(ui_->mnuView_1, &MainForm::mnuView_Click, 1);
-    connectItem(ui_->mnuSequence_0->menuAction(), &MainForm::mnuSequence_Click, 0);
     connectItem(ui_->mnuSequence_2, &MainForm::mnuSequence_Click, 2);
     connectItem(ui_->mnuOutput_0, &MainForm::mnuOutput_Click, ToFile);
     connectItem(ui_->mnuOutput_1, &MainForm::mnuOutput_Click, ToWindow);

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -49,6 +50,7 @@ class MainForm : public QMainWindow {
     void mnuOutput_Click(std::int16_t Index);
     void mnuHelp_Click(std::int16_t Index);
 
+    void Command(const std::function<void()>& command);
     void LayOut();
     void ConnectControls();
     void ConnectGroupNames();

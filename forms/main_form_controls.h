@@ -79,6 +79,11 @@ class OutputItems : public OutputMenu {
   public:
     explicit OutputItems(const std::array<QAction*, 3>& items) : items_(items) {}
     [[nodiscard]] std::int16_t Count() const override { return static_cast<std::int16_t>(items_.size()); }
+    /// The toolkit marks an item before anyone is asked; this puts the marks back on the channel.
+    void Check(std::int32_t channel) {
+        for (std::int16_t Index = 0; Index < Count(); ++Index)
+            SetChecked(Index, Index == channel);
+    }
     void SetChecked(std::int16_t Index, bool checked) override {
         items_.at(static_cast<std::size_t>(Index))->setChecked(checked);
     }

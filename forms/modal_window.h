@@ -8,8 +8,7 @@ namespace orvane {
 /// A window for one opening: built, shown and destroyed. It has no owner window.
 class ModalWindow : public QDialog {
   public:
-    /// Shows the window in the middle of the screen and returns when it has closed. Of a double click whose
-    /// first half closed it, the second half reaches no window that lay beneath.
+    /// Shows the window in the middle of the screen and returns when it has closed.
     void ShowModal();
 
   protected:

@@ -82,10 +82,14 @@ void OutputDialog::keyPressEvent(QKeyEvent* event) {
 } // namespace
 
 void OutputForm::ShowModal() {
+    // Whatever becomes of the window, its temporary file goes.
+    const struct Unload {
+        OutputDocument& document;
+        ~Unload() { document.Form_Unload(); }
+    } unload{document_};
     OutputDialog window(document_, desktop_);
     window.Form_Load();
     window.ShowModal();
-    document_.Form_Unload();
 }
 
 } // namespace orvane

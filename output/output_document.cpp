@@ -65,7 +65,7 @@ void OutputDocument::Form_Unload() {
         return;
     try {
         desktop_.FileSystem.Delete(OutputFileName_);
-    } catch (const Failure&) {
+    } catch (...) {
         // Somebody else deleted it, or it stays: nothing that the user could do at the close of a window.
     }
 }

@@ -10,14 +10,17 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace orvane {
@@ -129,6 +132,49 @@ class MainFormTest : public testing::Test {
     ScriptedDialog outputDialog;
     std::unique_ptr<MainForm> form;
 };
+
+TEST_F(MainFormTest, SaysWhatItAlwaysSaid) {
+    Open();
+    EXPECT_EQ(form->windowTitle(), "Randomization Main");
+    const std::vector<std::pair<std::string, std::string>> wordings = {
+        {"Label1", "Number of goups|"},
+        {"nogLbl", "2|Number of Groups"},
+        {"SampSizeTxt", "12|Sample Size"},
+        {"Label2", "Sample Size|"},
+        {"Label3", "Groups|"},
+        {"SaveExitChk", "Save settings on exit|"},
+        {"cmdGenerate", "Generate Random List|"}};
+    for (const auto& [name, wording] : wordings)
+        EXPECT_EQ(Wording(*form, name), wording) << name;
+
+    std::string menus;
+    const std::function<void(const QWidget&)> read = [&](const QWidget& menu) {
+        for (const QAction* item : menu.actions()) {
+            menus += item->isSeparator() ? "-" : item->text().toStdString();
+            menus += item->isEnabled() ? " " : "(off) ";
+            EXPECT_TRUE(item->shortcut().isEmpty());
+            if (item->menu() != nullptr)
+                read(*item->menu());
+        }
+    };
+    read(*form->menuBar());
+    EXPECT_EQ(menus, "File Load Settings Save Settings - Exit View Random File... Option... Sequence Output "
+                     "To File To Window To Clipboard - Generate Help Content - About... ");
+}
+
+TEST_F(MainFormTest, WhatAnAssistiveProgramTriggersBehindAMessageIsDropped) {
+    Open();
+    TypeInto(SampSizeTxt(), "x");
+    desktop.messages.WhileShown = [this] {
+        The<QPushButton>("cmdGenerate").click();
+        Item("mnuOutput_1").trigger();
+        Item("mnuSequence_2").trigger();
+    };
+    const std::string before = Marks();
+    The<QPushButton>("cmdGenerate").click();
+    EXPECT_EQ(desktop.messages.TakeAll(), Names{"please specify the sample size"});
+    EXPECT_EQ(Marks(), before);
+}
 
 TEST_F(MainFormTest, StartsWithoutSettingsAfterOneReportOverTheWindow) {
     desktop.files.Contents.clear();

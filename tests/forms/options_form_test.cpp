@@ -15,11 +15,11 @@
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QTabBar>
-#include <QWindow>
 
 #include <cmath>
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace orvane {
@@ -88,6 +88,41 @@ TEST_F(OptionsFormTest, OpensOnTheFirstTabWithTheNormalPointer) {
             SelectTab(window, 3);
             Cancel(window);
         });
+}
+
+TEST_F(OptionsFormTest, SaysWhatItAlwaysSaid) {
+    const std::vector<std::pair<std::string, std::string>> wordings = {
+        {"BlockFrame", "Blocks|"},
+        {"BlkOpt_0", "Only one block|Block Size = Sample Size"},
+        {"BlkOpt_1", "Equal size|Block Size Not Set"},
+        {"EqBlockSizeTxt", "|Size of Equal Blocks"},
+        {"BlkOpt_2", "Random sizes of|Random Block Size not Set"},
+        {"UnEqBlockSizeTxt", "|Random Block Sizes"},
+        {"BlkOpt_3", "Random Block Size|Random Block Size"},
+        {"RandomSIzesLbl", "Enter block sizes and/or ranges separated by commas. For example 6,8,10,12-16|"},
+        {"Frame1", "Alpha Numeric|"},
+        {"AlphaNumOpt_0", "Alpha|"},
+        {"AlphaNumOpt_1", "Numeric|"},
+        {"AlphaNumOpt_2", "Mixed|"},
+        {"Frame2", "Sequential / Random|"},
+        {"SeqRandOpt_0", "Sequential|"},
+        {"SeqRandOpt_1", "Random|"},
+        {"Label1", "Length|"},
+        {"Frame3", "Format|"},
+        {"Label2", "Columns|"},
+        {"chkTableBorder", "Table Border (Web Page only)|"},
+        {"Label3", "Cell Spacing (Web Page Only)|"},
+        {"Frame4", "Statistics|"},
+        {"chkPerformRuns", "Runs test on generated sequence|"},
+        {"Label4", "Level of significance|"},
+        {"cmdOK", "OK|"},
+        {"cmdCancel", "Cancel|"},
+        {"cmdApply", "Apply|"}};
+    Open([&](QDialog& window) {
+        for (const auto& [name, wording] : wordings)
+            EXPECT_EQ(Wording(window, name), wording) << name;
+        Cancel(window);
+    });
 }
 
 TEST_F(OptionsFormTest, TabKeyWalksThePanelInItsOrder) {
@@ -401,33 +436,6 @@ TEST_F(OptionsFormTest, EnterOnAFocusedButtonPressesThatButton) {
         Press(Qt::Key_Enter);
     });
     EXPECT_EQ(settings.SelectedCmd, ClosedByCancel);
-}
-
-TEST_F(OptionsFormTest, SecondHalfOfADoubleClickReachesNothing) {
-    QPushButton below("below");
-    below.setGeometry(0, 0, 800, 800);
-    below.show();
-    int pressed = 0;
-    QObject::connect(&below, &QPushButton::clicked, [&] { ++pressed; });
-    QPoint there;
-    const auto click = [&](QWidget& window, int milliseconds) {
-        for (const bool down : {true, false})
-            qt_handleMouseEvent(window.windowHandle(), window.mapFromGlobal(there), there,
-                                down ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton,
-                                down ? QEvent::MouseButtonPress : QEvent::MouseButtonRelease, {},
-                                milliseconds);
-    };
-    Open([&](QDialog& window) {
-        const auto& button = Find<QWidget>(window, "cmdOK");
-        there = button.mapToGlobal(button.rect().center());
-        click(window, 10'000'000);
-        EXPECT_FALSE(window.isVisible());
-    });
-    EXPECT_EQ(settings.SelectedCmd, ClosedByOK);
-    click(below, 10'000'100);
-    EXPECT_EQ(pressed, 0);
-    click(below, 10'009'000);
-    EXPECT_EQ(pressed, 1);
 }
 
 } // namespace

@@ -47,6 +47,14 @@ inline void Click(QWidget& window, const std::string& name) {
     QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(10, control.height() / 2));
 }
 
+/// The text of a label, button or frame and its tool tip, as "text|tool tip".
+inline std::string Wording(QWidget& window, const std::string& name) {
+    const auto& control = Find<QWidget>(window, name);
+    const QVariant title = control.property("title");
+    const QString text = title.isValid() ? title.toString() : control.property("text").toString();
+    return (text + "|" + control.toolTip()).toStdString();
+}
+
 /// The name of the control that has the focus.
 inline std::string Focused(const QDialog& window) {
     return window.focusWidget() == nullptr ? "" : window.focusWidget()->objectName().toStdString();
