@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QSize>
 #include <QStandardPaths>
 
 namespace orvane {
@@ -16,6 +17,8 @@ namespace orvane {
 namespace {
 
 constexpr const char* Source = "CommonDialog";
+/// Wide enough for the columns of the toolkit's own prompt.
+constexpr QSize PromptSize(780, 480);
 
 /// Whether the desktop shows its own prompt instead of the toolkit's widgets. To be asked after the show.
 bool IsNative(const QFileDialog& dialog) {
@@ -63,6 +66,7 @@ void QtCommonDialog::Show(Kind kind) {
     dialog.setAcceptMode(kind == Kind::Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(kind == Kind::Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, (Flags & OverwritePrompt) == 0);
+    dialog.resize(PromptSize);
     dialog.setSupportedSchemes({QStringLiteral("file")});
     dialog.setNameFilters(filter.Entries());
     const auto followEntry = [&] {
