@@ -19,32 +19,43 @@ inline constexpr std::array<std::uint32_t, 4> ChaChaConstants{0x61707865, 0x3320
 inline constexpr std::size_t ChaChaKeyAt = 4;
 inline constexpr std::size_t ChaChaKeyWords = 8;
 
-ORVANE_INLINE void QuarterRound(ChaChaWords& x, std::size_t a, std::size_t b, std::size_t c, std::size_t d) {
-    x[a] += x[b];
-    x[d] = std::rotl(x[d] ^ x[a], 16);
-    x[c] += x[d];
-    x[b] = std::rotl(x[b] ^ x[c], 12);
-    x[a] += x[b];
-    x[d] = std::rotl(x[d] ^ x[a], 8);
-    x[c] += x[d];
-    x[b] = std::rotl(x[b] ^ x[c], 7);
+ORVANE_INLINE void QuarterRound(std::uint32_t& a, std::uint32_t& b, std::uint32_t& c, std::uint32_t& d) {
+    a += b;
+    d = std::rotl(d ^ a, 16);
+    c += d;
+    b = std::rotl(b ^ c, 12);
+    a += b;
+    d = std::rotl(d ^ a, 8);
+    c += d;
+    b = std::rotl(b ^ c, 7);
 }
 
-/// Two rounds at a time, first down the columns, then along the diagonals. Written as a recursion, which
-/// leaves no loop: a loop over blocks around it is then one that the compiler can vectorise.
-template <int Rounds>
-ORVANE_INLINE void ChaChaRounds(ChaChaWords& x) {
+/// The same words of several blocks, side by side.
+template <std::size_t Blocks>
+using ChaChaLanes = std::array<std::uint32_t, Blocks>;
+
+/// The quarter rounds of several blocks: a loop that the compiler vectorises.
+template <std::size_t Blocks>
+ORVANE_INLINE void QuarterRound(ChaChaLanes<Blocks>& a, ChaChaLanes<Blocks>& b, ChaChaLanes<Blocks>& c,
+                                ChaChaLanes<Blocks>& d) {
+    for (std::size_t block = 0; block < Blocks; ++block)
+        QuarterRound(a[block], b[block], c[block], d[block]);
+}
+
+/// Two rounds at a time, first down the columns, then along the diagonals. `x` holds the sixteen words of one
+/// block or the sixteen lanes of several.
+template <int Rounds, class Words>
+ORVANE_INLINE void ChaChaRounds(Words& x) {
     static_assert(Rounds % 2 == 0);
-    if constexpr (Rounds > 0) {
-        QuarterRound(x, 0, 4, 8, 12);
-        QuarterRound(x, 1, 5, 9, 13);
-        QuarterRound(x, 2, 6, 10, 14);
-        QuarterRound(x, 3, 7, 11, 15);
-        QuarterRound(x, 0, 5, 10, 15);
-        QuarterRound(x, 1, 6, 11, 12);
-        QuarterRound(x, 2, 7, 8, 13);
-        QuarterRound(x, 3, 4, 9, 14);
-        ChaChaRounds<Rounds - 2>(x);
+    for (int round = 0; round < Rounds; round += 2) {
+        QuarterRound(x[0], x[4], x[8], x[12]);
+        QuarterRound(x[1], x[5], x[9], x[13]);
+        QuarterRound(x[2], x[6], x[10], x[14]);
+        QuarterRound(x[3], x[7], x[11], x[15]);
+        QuarterRound(x[0], x[5], x[10], x[15]);
+        QuarterRound(x[1], x[6], x[11], x[12]);
+        QuarterRound(x[2], x[7], x[8], x[13]);
+        QuarterRound(x[3], x[4], x[9], x[14]);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <cmath>
+#include <iterator>
 
 namespace orvane {
 
@@ -11,10 +12,18 @@ namespace {
 enum class Rounding { Twice, Once };
 
 ORVANE_INLINE void UniformBatch(const ChaChaWords& first, std::span<float, BatchValues> values) {
+    alignas(CacheLine) ChaChaLanes<BatchBlocks> x[16];
+    for (std::size_t word = 0; word < std::size(x); ++word)
+        x[word].fill(first[word]);
+    for (std::size_t block = 0; block < BatchBlocks; ++block)
+        x[ChaChaCounterAt][block] += static_cast<std::uint32_t>(block);
+    ChaChaRounds<SourceRounds>(x);
+
     for (std::size_t block = 0; block < BatchBlocks; ++block) {
-        ChaChaWords input = first;
-        input[ChaChaCounterAt] += static_cast<std::uint32_t>(block);
-        const ChaChaWords words = ChaChaBlock<SourceRounds>(input);
+        ChaChaWords words = first;
+        words[ChaChaCounterAt] += static_cast<std::uint32_t>(block);
+        for (std::size_t word = 0; word < words.size(); ++word)
+            words[word] += x[word][block];
         for (std::size_t group = 0; group < BlockValues / 4; ++group) {
             const auto four = UniformValues(words[3 * group], words[3 * group + 1], words[3 * group + 2]);
             for (std::size_t i = 0; i < 4; ++i)

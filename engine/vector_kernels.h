@@ -17,8 +17,9 @@ inline constexpr int SourceRounds = 8;
 /// The word of a block's input that counts the blocks, its low half.
 inline constexpr std::size_t ChaChaCounterAt = 12;
 
-/// Blocks that are made side by side.
-inline constexpr std::size_t BatchBlocks = 16;
+/// Blocks that are made side by side: two of the widest vectors, so that there is always one to work on while
+/// the other's result is under way.
+inline constexpr std::size_t BatchBlocks = 32;
 /// Values of a block: three words hold the bits of four values, the sixteenth word those of one.
 inline constexpr std::size_t BlockValues = 21;
 inline constexpr std::size_t BatchValues = BatchBlocks * BlockValues;
@@ -42,8 +43,8 @@ ORVANE_INLINE std::array<float, 4> UniformValues(std::uint32_t a, std::uint32_t 
 struct VectorKernels {
     const char* Name;
 
-    /// The values of sixteen blocks, made from `first` and from the fifteen inputs whose counter is higher by
-    /// 1 to 15; the counter of `first` is a multiple of 16. The first values of all blocks come first.
+    /// The values of BatchBlocks blocks, made from `first` and from the inputs that count on from it; the
+    /// counter of `first` is a multiple of BatchBlocks. The first values of all blocks come first.
     void (*UniformBatch)(const ChaChaWords& first, std::span<float, BatchValues> values);
 
     /// draws[i] = Lo + values[i] * range, rounded to nearest, ties to even, on the exact product. `range` is

@@ -119,7 +119,7 @@ TEST(RandomDraws, InBulkEveryVersionEqualsTheSingleDraw) {
 }
 
 TEST(RandomDraws, AnyNumberInBulkConsumesAsManyValues) {
-    const std::size_t counts[] = {0, 1, 7, 63, 1343, 1344, 1345, 4000};
+    const std::size_t counts[] = {0, 1, 7, 63, 2687, 2688, 2689, 8000};
     for (const VectorKernels& kernels : RunnableKernels())
         for (const std::size_t count : counts) {
             fakes::SetEntropy entropy;
