@@ -45,8 +45,8 @@ void RefuseSampleSize(SampleSizeBox& box, MessageBox& messages);
 class Generation {
   public:
     Generation(const ListSettings& settings, ListResults& results, OptionsWindow& options,
-               OutputChannels& channels, SampleSizeBox& sampleSize, MessageBox& messages, MousePointer& pointer,
-               UniformSource& random, TimeOfDay& clock)
+               OutputChannels& channels, SampleSizeBox& sampleSize, MessageBox& messages,
+               MousePointer& pointer, UniformSource& random, TimeOfDay& clock)
         : settings_(settings), results_(results), options_(options), channels_(channels),
           sampleSize_(sampleSize), messages_(messages), pointer_(pointer), random_(random), clock_(clock) {}
 

@@ -29,7 +29,8 @@ std::int16_t Multiply16(std::int16_t a, std::int16_t b);
 std::int32_t Multiply32(std::int32_t a, std::int32_t b);
 
 /// The sum of slots 1 and up, in 16-bit arithmetic; 0 when there are none. Throws on overflow.
-template <class Array> std::int16_t SumArr(const Array& arr) {
+template <class Array>
+std::int16_t SumArr(const Array& arr) {
     std::int16_t sum = 0;
     for (std::size_t slot = 1; slot < arr.size(); ++slot)
         sum = Add16(sum, arr[slot]);
@@ -42,8 +43,8 @@ std::int16_t SampleSizeOf(std::string_view text);
 /// Whether the text stands for a number above the range of a sample size.
 bool IsAboveSampleSizes(std::string_view text);
 
-/// Decimal text of at most 7 significant digits without an exponent: 0.05 gives "0.05", 0 gives "0". `value` is
-/// finite.
+/// Decimal text of at most 7 significant digits without an exponent: 0.05 gives "0.05", 0 gives "0". `value`
+/// is finite.
 std::string SevenDigits(float value);
 
 /// The picture "0.####": a digit before the point, up to four behind it, rounded, trailing zeros dropped.

@@ -17,7 +17,8 @@ AlphaNumTable BuildAlphaNumChar();
 /// results.BlockSizes, no two alike. Random codes reseed the source once an attempt at a code.
 /// Throws a TooLarge failure, CodeArr untouched, when the list needs more codes than the length gives, and an
 /// Overflow failure for a list above LargestList.
-void CreateCodeArr(const ListSettings& settings, ListResults& results, UniformSource& random, TimeOfDay& clock);
+void CreateCodeArr(const ListSettings& settings, ListResults& results, UniformSource& random,
+                   TimeOfDay& clock);
 
 /// How many different codes of `length` characters the settings allow: base to the power of length, less 1
 /// for sequential codes, which start at 1; LargestList + 1 stands for any number above LargestList.
@@ -34,6 +35,7 @@ std::string ConvertToABC(std::int16_t n, std::int16_t length);
 std::string ConvertToABC123(std::int16_t n, std::int16_t length);
 
 /// Reseeds the source with the time and draws `Length` characters of the alphabet `AlphaNum`.
-std::string MakeRandomCode(std::int32_t AlphaNum, std::int16_t Length, UniformSource& random, TimeOfDay& clock);
+std::string MakeRandomCode(std::int32_t AlphaNum, std::int16_t Length, UniformSource& random,
+                           TimeOfDay& clock);
 
 } // namespace orvane

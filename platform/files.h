@@ -13,7 +13,8 @@ namespace orvane {
 
 class OutputFile {
   public:
-    /// Closes the file if Close was not called; what was written stays, and a failure of that close is silent.
+    /// Closes the file if Close was not called; what was written stays, and a failure of that close is
+    /// silent.
     virtual ~OutputFile() = default;
     /// Appends all of `bytes` or throws; after a failure the file holds as much as could be written.
     virtual void Write(std::string_view bytes) = 0;

@@ -14,7 +14,8 @@ class UniformSource {
     /// The next value.
     virtual float UniformNext() = 0;
 
-    /// Fills `values` with the next values.size() values: bit for bit what that many calls of UniformNext give.
+    /// Fills `values` with the next values.size() values: bit for bit what that many calls of UniformNext
+    /// give.
     virtual void UniformFill(std::span<float> values) = 0;
 
     /// Mixes `value` into the state; never makes the state weaker.

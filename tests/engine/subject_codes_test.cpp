@@ -104,10 +104,9 @@ TEST(SubjectCodes, AListThatNeedsMoreCodesThanThereAreIsRefusedAtOnce) {
         std::int32_t seqRandom;
         std::int16_t length;
         std::int32_t available;
-    } rows[] = {{Numeric, Sequential, 3, 999}, {Numeric, Random, 3, 1000}, {Alpha, Sequential, 2, 675},
-                {Alpha, Random, 2, 676},       {Mixed, Sequential, 1, 35}, {Mixed, Random, 2, 1296},
-                {Mixed, Random, 10, 32768},    {Numeric, Sequential, 0, 0},
-                {Mixed, Random, 0, 0}};
+    } rows[] = {{Numeric, Sequential, 3, 999}, {Numeric, Random, 3, 1000},  {Alpha, Sequential, 2, 675},
+                {Alpha, Random, 2, 676},       {Mixed, Sequential, 1, 35},  {Mixed, Random, 2, 1296},
+                {Mixed, Random, 10, 32768},    {Numeric, Sequential, 0, 0}, {Mixed, Random, 0, 0}};
     FakeDesktop desktop;
     for (const auto& row : rows) {
         EXPECT_EQ(CodesAvailable(row.alphaNum, row.seqRandom, row.length), row.available);
