@@ -58,4 +58,5 @@ function(orvane_check_arrows)
   add_custom_target(arrows ALL
     COMMAND ${CMAKE_COMMAND} -DSOURCE=${CMAKE_SOURCE_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/arrows.cmake
     COMMENT "Arrows between the folders")
+  add_dependencies(orvane arrows)
 endfunction()

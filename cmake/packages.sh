@@ -1,4 +1,5 @@
-# Sourced by the commands of the top folder: installs Debian packages that are missing.
+# Sourced by the commands of the top folder: installs Debian packages that are missing, and lets the user of
+# sudo own what is built.
 
 # need PACKAGE...: installs those of the packages that are not there. Quick when all are.
 need() {
@@ -18,6 +19,16 @@ need() {
     echo "Installing ${missing[*]}"
     "${root[@]}" apt-get -q update
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
+}
+
+# go_on_as_owner ARGUMENT...: when sudo made the owner of this tree root, hands over what root has built here
+# and starts the command with its arguments again as the owner, who can then do without sudo the next time.
+go_on_as_owner() {
+    local owner
+    owner=$(stat -c %u .)
+    [ "$(id -u)" -eq 0 ] && [ "$owner" -ne 0 ] && [ "$owner" = "${SUDO_UID:-}" ] || return 0
+    [ ! -e build ] || chown -R "$owner" build
+    exec sudo -u "#$owner" "$PWD/${0##*/}" "$@"
 }
 
 # To build the program, to run it, to test it, and to drive it on a display of its own.

@@ -20,8 +20,8 @@
 // in place of the counter and a mark that no block of values bears.
 // - Back: the old key is overwritten and the step has no inverse, so whoever reads the program's memory now
 //   cannot tell what was drawn before. Values prepared and not handed out are dropped and overwritten as
-//   well. This is said of the object itself; of copies that a debugger, a crash report or the swap file took,
-//   nothing can be promised.
+//   well. This is said of the object itself; of copies that lie in the dead part of the stack until the next
+//   calls overwrite it, or that a debugger, a crash report or the swap file took, nothing can be promised.
 // - On: whatever value is given, even one that an enemy chose, the new key is as hard to guess as the old
 // one.
 //   (To the letter, a one-way step can merge two keys into one. A thousand million reseeds in a row would

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 
@@ -139,13 +138,10 @@ TEST_F(OutputFormTest, TakesAnyBytesAndManyLines) {
     for (int line = 0; line < 100'000; ++line)
         bytes += "0001: Group 1       0002: Group 2\r\n";
     desktop.files.Contents[path] = bytes;
-    QElapsedTimer timer;
-    timer.start();
     Open([&](QDialog& window) {
         EXPECT_GT(Find<QPlainTextEdit>(window, "OutputTxt").blockCount(), 100'000);
         window.close();
     });
-    EXPECT_LT(timer.elapsed(), 20'000);
 }
 
 } // namespace
