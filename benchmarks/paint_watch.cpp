@@ -53,7 +53,7 @@ class PaintWatchPlugin : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "paint_watch.json")
 
   public:
-    QObject* create(const QString& /*name*/, const QString& /*specification*/) override {
+    QObject* create(const QString& /*name*/, const QString& /*arguments*/) override {
         return new PaintWatch;
     }
 };
