@@ -53,9 +53,7 @@ class PaintWatchPlugin : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "paint_watch.json")
 
   public:
-    QObject* create(const QString& /*name*/, const QString& /*arguments*/) override {
-        return new PaintWatch;
-    }
+    QObject* create(const QString& /*name*/, const QString& /*arguments*/) override { return new PaintWatch; }
 };
 
 #include "paint_watch.moc"

@@ -34,5 +34,5 @@ go_on_as_owner() {
 # To build the program, to run it, to test it, and to drive it on a display of its own.
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libglib2.0-dev)
 run_packages=(shared-mime-info fonts-dejavu-core)
-test_packages=(libgtest-dev chromium)
+test_packages=(libgtest-dev chromium locales)
 display_packages=(xvfb openbox xdotool xclip imagemagick x11-utils dbus-daemon at-spi2-core)

@@ -8,6 +8,7 @@
 #include <clocale>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <functional>
 #include <limits>
 #include <string>
@@ -69,12 +70,14 @@ TEST(Numbers, TheLongestStartOfATextThatIsANumberCounts) {
 
 TEST(Numbers, ADecimalCommaInTheDesktopsLocaleChangesNothing) {
     const std::string before = std::setlocale(LC_ALL, nullptr);
-    std::setlocale(LC_ALL, "de_DE.UTF-8");
+    ::setenv("LOCPATH", DECIMAL_COMMA, 1);
+    ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
+    ASSERT_STREQ(std::localeconv()->decimal_point, ",");
     EXPECT_EQ(NumericValue("0.25"), 0.25);
     EXPECT_EQ(NumericValue("0,25"), 0);
     EXPECT_EQ(SevenDigits(0.25F), "0.25");
     EXPECT_EQ(FourDecimals(0.25F), "0.25");
-    std::setlocale(LC_ALL, before.c_str());
+    ASSERT_NE(std::setlocale(LC_ALL, before.c_str()), nullptr);
 }
 
 TEST(Numbers, ANumberBeyondAnyFloatIsAFailureAndKeepsItsSign) {

@@ -68,8 +68,8 @@ class FakeShell : public Shell32 {
 class MemoryRegistry : public Registry {
   public:
     struct Value {
-        std::uint32_t type;
-        std::string bytes;
+        std::uint32_t type = 0;
+        std::string bytes{};
     };
     std::map<std::string, Value> Values;
     std::vector<std::string> Asked; ///< "path|name" of each query

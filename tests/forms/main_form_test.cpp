@@ -1,6 +1,7 @@
 #include "forms/main_form.h"
 
 #include "fakes/desktop.h"
+#include "fakes/settings_text.h"
 #include "forms/flex_grid_widget.h"
 #include "forms/line_box.h"
 #include "window_driver.h"
@@ -31,20 +32,14 @@ using namespace std::string_literals;
 using Names = std::vector<std::string>;
 
 /// A settings file.
-std::string Saved(const Names& names, const std::string& sampleSize, const std::string& seqRandom = "0",
-                  const std::string& output = "2", const std::string& alphaNum = "1",
-                  const std::string& length = "4") {
-    std::string file = "[Number of groups (2 - 16]\r\n" + std::to_string(names.size()) +
-                       "\r\n[Groups: Name of each group on a separate line]\r\n";
-    for (const std::string& name : names)
-        file += name + "\r\n";
-    return file + "[Sample Size]\r\n" + sampleSize + "\r\n[Code AlphaNum: 0-Alpha, 1-Numeric, 2-Mixed]\r\n" +
-           alphaNum + "\r\n[Code SeqRandum: 0-Sequential, 1-Random]\r\n" + seqRandom +
-           "\r\n[Code Length: (3-10)]\r\n" + length +
-           "\r\n[Block Option: 0-OnlyOneBlock, 1-EqualSize, 2-RandomSizesOf, 3-RandomBlockSize]\r\n0"
-           "\r\n[Equal Block Size: Enter size]\r\n\r\n[UnEqual Block Sizes: Enter sizes(comma "
-           "delimmited and/or range]\r\n\r\n[Output Option]\r\n" +
-           output + "\r\n";
+std::string Saved(const Names& names, const std::string& sampleSize, int seqRandom = 0, int output = 2,
+                  int alphaNum = 1, int length = 4) {
+    return BytesOf({.Groups = names,
+                    .SampleSize = sampleSize,
+                    .CodeAlphaNum = alphaNum,
+                    .CodeSeqRandom = seqRandom,
+                    .CodeLength = length,
+                    .OutputOption = output});
 }
 
 const std::string SavedPath = "/program/saved.stg";
@@ -200,7 +195,7 @@ TEST_F(MainFormTest, StartsWithoutSettingsAfterOneReportOverTheWindow) {
     TempTxt().TakeFocus();
     Type("Drug");
     EXPECT_EQ(GroupNames(), (Names{"Drug", ""}));
-    EXPECT_EQ(SaveAs(), Saved({"Drug", ""}, "0", "0", "0", "0", "0"));
+    EXPECT_EQ(SaveAs(), Saved({"Drug", ""}, "0", 0, 0, 0, 0));
 }
 
 TEST_F(MainFormTest, ControlsStandInTheirPlacesAndTakeTheFocusInOrder) {
@@ -401,7 +396,7 @@ TEST_F(MainFormTest, EnterGeneratesWhereverTheFocusIs) {
 
 TEST_F(MainFormTest, SettingsAreLoadedAndRefusedThroughThePrompt) {
     Open();
-    Load(Saved({"A", "B", "C"}, "12abc", "0", "1"));
+    Load(Saved({"A", "B", "C"}, "12abc", 0, 1));
     EXPECT_EQ(desktop.messages.Take(), "Settings were loaded successfully!");
     EXPECT_EQ(GroupNames(), (Names{"A", "B", "C"}));
     EXPECT_EQ(SampSizeTxt().Text(), "12abc");
@@ -413,9 +408,9 @@ TEST_F(MainFormTest, SettingsAreLoadedAndRefusedThroughThePrompt) {
     for (const std::string count : {"1", "17", "x", "40000"}) {
         Load("\r\n" + count + "\r\n");
         EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: ")) << count;
-        EXPECT_EQ(SaveAs(), Saved({"A", "B", "C"}, "12", "0", "0"));
+        EXPECT_EQ(SaveAs(), Saved({"A", "B", "C"}, "12", 0, 0));
     }
-    Load(Saved({"D", "E"}, "5", "0", "5"));
+    Load(Saved({"D", "E"}, "5", 0, 5));
     EXPECT_NE(desktop.messages.Take().find("output channel 5"), std::string::npos);
     EXPECT_EQ(Marks(), "---");
     EXPECT_EQ(GroupNames(), (Names{"D", "E"}));
@@ -457,7 +452,7 @@ TEST_F(MainFormTest, ClosesAlsoWhenTheSettingsCannotBeWrittenAndNotWhileAtWork) 
 }
 
 TEST_F(MainFormTest, AFailureThatNoRoutineCatchesIsReportedOnceAndTheProgramGoesOn) {
-    desktop.files.Contents[SavedPath] = Saved({"Verum", "Placebo"}, "12", "1");
+    desktop.files.Contents[SavedPath] = Saved({"Verum", "Placebo"}, "12", 1);
     Open();
     desktop.random.Broken = true;
     WithOptions([&] { Click(*form, "cmdGenerate"); }, "cmdOK");

@@ -1,68 +1,34 @@
 // Chromium, without a window, opens the pages that a user's browser opens.
 #include "engine/numbers.h"
 #include "fakes/desktop.h"
+#include "fakes/temporary_folder.h"
 #include "output/html_report.h"
+#include "tour/child.h"
+#include "tour/files.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace orvane {
 
 namespace {
 
-namespace fs = std::filesystem;
 using Lines = std::vector<std::string>;
 
-std::string ReadAll(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void WriteAll(const fs::path& path, const std::string& bytes) {
-    std::ofstream file(path, std::ios::binary);
-    file << bytes;
-    ASSERT_TRUE(file.flush()) << path;
-}
-
-struct TemporaryFolder {
-    TemporaryFolder() {
-        std::string pattern = (fs::temp_directory_path() / "pages_XXXXXX").string();
-        if (mkdtemp(pattern.data()) != nullptr)
-            Path = pattern;
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        fs::remove_all(Path, ignored);
-    }
-    fs::path Path;
-};
-
 /// Runs the browser on `page` and returns what it dumps; its log goes to the file `log`.
-std::string Browse(const fs::path& folder, const fs::path& page, const fs::path& log) {
-    const fs::path dump = folder / "dump";
-    const std::string command =
-        "HOME='" + folder.string() +
-        "' timeout -k 5 120 '" CHROMIUM
-        "' --headless --no-sandbox --disable-gpu --disable-dev-shm-usage --disable-background-networking"
-        " --disable-component-update --disable-sync --no-first-run --enable-logging=stderr --v=0"
-        " --virtual-time-budget=20000 --user-data-dir='" +
-        (folder / "profile").string() + "' --dump-dom 'file://" + page.string() + "' >'" + dump.string() +
-        "' 2>'" + log.string() + "'";
-    EXPECT_EQ(std::system(command.c_str()), 0) << ReadAll(log);
-    return ReadAll(dump);
+std::string Browse(const std::string& home, const std::string& page, const std::string& log) {
+    return tour::OutputOf({CHROMIUM, "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
+                           "--disable-background-networking", "--disable-component-update", "--disable-sync",
+                           "--no-first-run", "--enable-logging=stderr", "--v=0",
+                           "--virtual-time-budget=20000", "--user-data-dir=" + home + "/profile",
+                           "--dump-dom", "file://" + page},
+                          {"PATH=/usr/bin:/bin", "HOME=" + home}, log);
 }
 
 Lines Split(const std::string& text) {
@@ -76,21 +42,21 @@ Lines Split(const std::string& text) {
 /// What the browser says of a page: its title, its faults, the cells of its tables, and as a fault each
 /// message that reached the console.
 Lines Inspect(const std::string& page) {
-    const TemporaryFolder folder;
-    const fs::path log = folder.Path / "log";
-    WriteAll(folder.Path / "page.htm", page + "<script>" + ReadAll(INSPECTION) + "</script>");
-    WriteAll(folder.Path / "frame.htm",
-             "<!DOCTYPE html><meta charset='utf-8'><script>addEventListener('message', (e) =>"
-             "{ document.querySelector('pre').textContent = e.data; });</script>"
-             "<iframe src='page.htm' width='360' height='640' style='border:0'></iframe><pre></pre>");
-    const std::string dump = Browse(folder.Path, folder.Path / "frame.htm", log);
+    const fakes::TemporaryFolder folder;
+    const std::string log = folder.Path("log");
+    folder.Put("page.htm", page + "<script>" + tour::ReadFile(INSPECTION) + "</script>");
+    const std::string frame = folder.Put(
+        "frame.htm", "<!DOCTYPE html><meta charset='utf-8'><script>addEventListener('message', (e) =>"
+                     "{ document.querySelector('pre').textContent = e.data; });</script>"
+                     "<iframe src='page.htm' width='360' height='640' style='border:0'></iframe><pre></pre>");
+    const std::string dump = Browse(folder.Path(), frame, log);
     const std::string start = "<pre>";
     const std::size_t from = dump.find(start);
     if (from == std::string::npos)
         return {"no report: " + dump};
     const std::size_t begin = from + start.size();
     Lines said = Split(dump.substr(begin, dump.find("</pre>", begin) - begin));
-    for (const std::string& line : Split(ReadAll(log)))
+    for (const std::string& line : Split(folder.Get("log")))
         if (line.find("CONSOLE") != std::string::npos)
             said.push_back("fault: " + line.substr(line.find('"')));
     return said;
@@ -139,7 +105,7 @@ TEST(PagesTest, TheListIsReadDownTheColumns) {
 }
 
 TEST(PagesTest, TheHelpPageStandsAloneAndFitsANarrowWindow) {
-    const Lines said = Inspect(ReadAll(HELP_PAGE));
+    const Lines said = Inspect(tour::ReadFile(HELP_PAGE));
     EXPECT_EQ(said.at(0), "title: Randomization lists - help");
     EXPECT_EQ(FaultsOf(said), Lines{});
 }

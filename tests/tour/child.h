@@ -23,7 +23,7 @@ using Words = std::vector<std::string>;
 /// only because the machine itself stood still.
 class Deadline {
   public:
-    explicit Deadline(std::chrono::seconds patience = std::chrono::seconds(40))
+    explicit Deadline(std::chrono::seconds patience = std::chrono::seconds(100))
         : end_(std::chrono::steady_clock::now() + patience) {}
 
     /// To be asked after each look.

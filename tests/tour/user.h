@@ -1,6 +1,7 @@
 // A person who works with the program by its keyboard, and reads what its windows show.
 #pragma once
 
+#include "fakes/settings_text.h"
 #include "files.h"
 #include "x_desktop.h"
 
@@ -10,6 +11,9 @@
 #include <vector>
 
 namespace orvane::tour {
+
+using fakes::BytesOf;
+using Settings = fakes::SettingsText;
 
 constexpr const char* MainTitle = "Randomization Main";
 constexpr const char* OptionsTitle = "Options";

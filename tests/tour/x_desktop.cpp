@@ -53,18 +53,6 @@ Words WindowIds(const std::string& line) {
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder() {
-    std::string name = (fs::temp_directory_path() / "orvane-tour-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-        throw Fault("cannot make a temporary folder");
-    path_ = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-}
-
 XDesktop::XDesktop() {
     MakeHome();
     // The server ends with this process however that ends, and all on the display ends with the server.

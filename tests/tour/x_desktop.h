@@ -2,6 +2,7 @@
 #pragma once
 
 #include "child.h"
+#include "fakes/temporary_folder.h"
 #include "screen_reader.h"
 
 #include <filesystem>
@@ -20,20 +21,6 @@ struct Window {
     bool Active = false; ///< keys go to it
 };
 
-/// A folder that lives as long as its object.
-class TemporaryFolder {
-  public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-
-  private:
-    std::filesystem::path path_;
-};
-
 /// A desktop without a screen: a display server, a window manager, the bus of the accessibility tree, and a
 /// home with viewers for web pages and text files that only note what they were asked to show. One program at
 /// a time runs on it. Every wait ends with a Fault when the program has ended or the patience is over.
@@ -45,7 +32,7 @@ class XDesktop {
     XDesktop& operator=(const XDesktop&) = delete;
 
     /// A folder for whatever should vanish with the desktop.
-    [[nodiscard]] const std::filesystem::path& Folder() const { return folder_.Path(); }
+    [[nodiscard]] std::filesystem::path Folder() const { return folder_.Path(); }
 
     void Start(const std::filesystem::path& program);
     /// The exit code of the program, which is expected to end by itself.
@@ -91,7 +78,7 @@ class XDesktop {
     void MakeHome();
     void RegisterViewer(const std::string& name, const std::string& type) const;
 
-    TemporaryFolder folder_;
+    fakes::TemporaryFolder folder_;
     Words environment_;
     std::unique_ptr<Child> server_;
     std::unique_ptr<Child> manager_;

@@ -1,7 +1,7 @@
 #include "platform/linux/gio_shell.h"
 
+#include "fakes/temporary_folder.h"
 #include "platform/failure.h"
-#include "platform/linux/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -43,7 +43,7 @@ class StubDesktop {
         return told;
     }
 
-    const TemporaryFolder folder;
+    const fakes::TemporaryFolder folder;
 
   private:
     void Register(const std::string& name, const std::string& program) const {

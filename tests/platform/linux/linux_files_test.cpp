@@ -1,7 +1,7 @@
 #include "platform/linux/linux_files.h"
 
+#include "fakes/temporary_folder.h"
 #include "platform/failure.h"
-#include "platform/linux/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -32,7 +32,7 @@ class LinuxFilesTest : public testing::Test {
         }
     }
 
-    TemporaryFolder folder;
+    fakes::TemporaryFolder folder;
     LinuxFiles files;
 };
 

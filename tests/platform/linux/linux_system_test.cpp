@@ -1,7 +1,7 @@
+#include "fakes/temporary_folder.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_entropy.h"
 #include "platform/linux/linux_registry.h"
-#include "platform/linux/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ namespace orvane {
 namespace {
 
 TEST(LinuxRegistry, AnswersWithTheFirstSystemInformationProgram) {
-    const TemporaryFolder folder;
+    const fakes::TemporaryFolder folder;
     LinuxRegistry registry;
     RegistryKey key = 7;
     const auto open = [&](const char* path) {

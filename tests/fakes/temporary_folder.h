@@ -5,20 +5,27 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 
-namespace orvane {
+namespace orvane::fakes {
 
 class TemporaryFolder {
   public:
     TemporaryFolder() : path_(std::filesystem::temp_directory_path() / "orvane-XXXXXX") {
-        ::mkdtemp(path_.data());
+        if (::mkdtemp(path_.data()) == nullptr)
+            throw std::runtime_error("cannot make a temporary folder");
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
 
+    [[nodiscard]] const std::string& Path() const { return path_; }
     [[nodiscard]] std::string Path(const std::string& name) const { return path_ + "/" + name; }
 
     // NOLINTNEXTLINE(modernize-use-nodiscard): often for the file alone
@@ -38,4 +45,4 @@ class TemporaryFolder {
     std::string path_;
 };
 
-} // namespace orvane
+} // namespace orvane::fakes
