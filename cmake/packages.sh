@@ -33,6 +33,8 @@ go_on_as_owner() {
 
 # To build the program, to run it, to test it, and to drive it on a display of its own.
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libglib2.0-dev)
-run_packages=(shared-mime-info fonts-dejavu-core)
-test_packages=(libgtest-dev chromium locales)
-display_packages=(xvfb openbox xdotool xclip imagemagick x11-utils dbus-daemon at-spi2-core)
+# The theme brings the file prompts of desktops that are built on GTK.
+run_packages=(shared-mime-info fonts-dejavu-core qt6-gtk-platformtheme)
+wayland_packages=(qt6-wayland)
+test_packages=(libgtest-dev locales tidy)
+display_packages=(xvfb openbox xdotool xclip imagemagick x11-utils dbus-daemon at-spi2-core chromium)

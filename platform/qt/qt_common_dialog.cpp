@@ -7,22 +7,36 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSize>
 #include <QStandardPaths>
+#include <QTreeView>
 
 namespace orvane {
 
 namespace {
 
 constexpr const char* Source = "CommonDialog";
-/// Wide enough for the columns of the toolkit's own prompt.
 constexpr QSize PromptSize(780, 480);
 
 /// Whether the desktop shows its own prompt instead of the toolkit's widgets. To be asked after the show.
 bool IsNative(const QFileDialog& dialog) {
     return dialog.findChild<QLineEdit*>() == nullptr;
+}
+
+/// The toolkit's own prompt cuts sizes, kinds and dates off, while its column of names has more than it
+/// needs.
+void ShowColumnsInFull(QFileDialog& dialog) {
+    const auto* const files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr)
+        return;
+    QHeaderView& columns = *files->header();
+    columns.setStretchLastSection(false);
+    for (int column = 0; column < columns.count(); ++column)
+        columns.setSectionResizeMode(column,
+                                     column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
 }
 
 /// The path chosen, before it got the extension of the selected entry.
@@ -67,6 +81,7 @@ void QtCommonDialog::Show(Kind kind) {
     dialog.setFileMode(kind == Kind::Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, (Flags & OverwritePrompt) == 0);
     dialog.resize(PromptSize);
+    ShowColumnsInFull(dialog);
     dialog.setSupportedSchemes({QStringLiteral("file")});
     dialog.setNameFilters(filter.Entries());
     const auto followEntry = [&] {

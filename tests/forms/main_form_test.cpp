@@ -128,7 +128,7 @@ class MainFormTest : public testing::Test {
     std::unique_ptr<MainForm> form;
 };
 
-TEST_F(MainFormTest, SaysWhatItAlwaysSaid) {
+TEST_F(MainFormTest, HasItsWordings) {
     Open();
     EXPECT_EQ(form->windowTitle(), "Randomization Main");
     const std::vector<std::pair<std::string, std::string>> wordings = {
@@ -458,10 +458,24 @@ TEST_F(MainFormTest, AFailureThatNoRoutineCatchesIsReportedOnceAndTheProgramGoes
     WithOptions([&] { Click(*form, "cmdGenerate"); }, "cmdOK");
     EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: no randomness"));
     EXPECT_FALSE(desktop.pointer.Busy);
+    EXPECT_EQ(desktop.board.Content, "earlier content");
+    desktop.random.Broken = false;
+
+    Load(Saved({"Verum", "Placebo"}, "12", 0, 0)); // codes that need no draws
+    EXPECT_EQ(desktop.messages.Take(), "Settings were loaded successfully!");
+    desktop.files.Capacity = 10;
+    dialog.Answers = {"/list.txt"};
+    WithOptions([&] { Click(*form, "cmdGenerate"); }, "cmdOK");
+    EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: cannot write"));
+    EXPECT_FALSE(desktop.pointer.Busy);
+    EXPECT_EQ(desktop.shell.Started, Names{});
+
     ClickCell(1, 1);
     Type("x");
-    EXPECT_EQ(GroupNames().front(), "x");
-    EXPECT_EQ(desktop.board.Content, "earlier content");
+    Item("mnuOutput_2").trigger();
+    WithOptions([&] { Click(*form, "cmdGenerate"); }, "cmdOK");
+    EXPECT_EQ(desktop.messages.Take(), "Data were copied into clipboard successfuly!");
+    EXPECT_NE(desktop.board.Content.find(": x"), std::string::npos);
 }
 
 TEST_F(MainFormTest, HelpOpensThePageAndTheAboutBox) {

@@ -90,7 +90,7 @@ TEST_F(OptionsFormTest, OpensOnTheFirstTabWithTheNormalPointer) {
         });
 }
 
-TEST_F(OptionsFormTest, SaysWhatItAlwaysSaid) {
+TEST_F(OptionsFormTest, HasItsWordings) {
     const std::vector<std::pair<std::string, std::string>> wordings = {
         {"BlockFrame", "Blocks|"},
         {"BlkOpt_0", "Only one block|Block Size = Sample Size"},

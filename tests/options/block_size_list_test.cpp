@@ -31,8 +31,10 @@ TEST(BlockSizeList, RefusesWithTheMessagesInOrderAndTheFocusOnTheField) {
             EXPECT_TRUE(bench.validation.NotValidInputs());
             EXPECT_EQ(bench.desktop.messages.TakeAll(), messages);
             Texts log{"message", "UnEqBlockSizeTxt"};
-            if (messages.size() == 2)
+            if (messages.size() == 2) {
                 log.insert(log.end(), {"message", "UnEqBlockSizeTxt"});
+                EXPECT_TRUE(bench.desktop.random.Reseeds.empty());
+            }
             EXPECT_EQ(bench.controls.Log, log);
         }
 }

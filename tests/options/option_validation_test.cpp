@@ -50,6 +50,7 @@ TEST(OptionValidation, EqualBlocksAreRefusedOrLaidOut) {
         EXPECT_EQ(bench.desktop.messages.Take(), row.message);
         EXPECT_EQ(bench.controls.Log, row.message.empty() ? Texts{} : (Texts{"message", "EqBlockSizeTxt"}));
         EXPECT_EQ(bench.Drawn(), Blocks(row.blocks, row.size));
+        EXPECT_TRUE(bench.desktop.random.Reseeds.empty());
     }
 }
 

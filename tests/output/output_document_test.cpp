@@ -37,6 +37,16 @@ TEST(OutputDocument, SavesCopiesOfTheFileAndDeletesItAtTheClose) {
     desk.window.WhileOpen = [&] { desk.desktop.files.Closed = {"/program/00000000.tmp"}; };
     desk.ToWindow(); // a file that cannot be deleted stays, and nobody is told
     EXPECT_EQ(contents.size(), 3U);
+    desk.desktop.files.Closed.clear();
+    contents.clear();
+    desk.windowDialog.Answers = {"/x/d.txt"};
+    desk.window.WhileOpen = [&] {
+        contents.clear(); // somebody else deletes it
+        desk.window.Document.SaveCmd_Click();
+        EXPECT_NE(desk.desktop.messages.Take().find("Error Description: "), std::string::npos);
+    };
+    desk.ToWindow();
+    EXPECT_TRUE(contents.empty());
 }
 
 TEST(OutputDocument, ShowsWhatItCanReadOfAFile) {

@@ -64,6 +64,7 @@ TEST_F(Example, InTheWindow) {
     EXPECT_EQ(text, rows + Rule(39) + row3 + "   \r\n" + row4 + "   \r\n" + Rule(39));
     EXPECT_EQ(text.size(), 280U);
     EXPECT_EQ(bytes, text);
+    EXPECT_EQ(desk.desktop.random.ReseededAt, (std::vector<std::size_t>{16, 16 + 720})) << "once a block";
     EXPECT_EQ(files.Log, (Texts{"create /program/ZA91KY0Z.tmp", "read /program/ZA91KY0Z.tmp",
                                 "delete /program/ZA91KY0Z.tmp"}));
 }
@@ -191,6 +192,9 @@ TEST(Reports, KeepWhatTheDiskTookAndReportOnce) {
             ListDesk desk;
             desk.desktop.files.Capacity = capacity;
             EXPECT_EQ(LeftBehind(report, desk, "cannot write"), all.substr(0, capacity));
+            desk.desktop.files.Capacity = all.size();
+            desk.desktop.files.Contents.clear();
+            EXPECT_EQ(report(desk), all) << "the next list";
         }
         ListDesk unclosed;
         unclosed.desktop.files.CloseFails = true;

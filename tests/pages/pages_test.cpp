@@ -108,6 +108,9 @@ TEST(PagesTest, TheHelpPageStandsAloneAndFitsANarrowWindow) {
     const Lines said = Inspect(tour::ReadFile(HELP_PAGE));
     EXPECT_EQ(said.at(0), "title: Randomization lists - help");
     EXPECT_EQ(FaultsOf(said), Lines{});
+    const fakes::TemporaryFolder folder;
+    tour::OutputOf({"tidy", "-quiet", "-errors", HELP_PAGE}, {"PATH=/usr/bin:/bin"}, folder.Path("log"));
+    EXPECT_EQ(folder.Get("log"), "") << "no valid page";
 }
 
 // The inspection itself finds what the tests above rely on it to find.

@@ -20,7 +20,7 @@ namespace {
 const fs::path ProgramFolder = APP_FOLDER;
 const fs::path Assets = ASSETS;
 // One block of so many subjects keeps the program busy for a second or more.
-constexpr const char* BusySampleSize = "5000";
+constexpr const char* BusySampleSize = "7000";
 
 class ProgramTest : public testing::Test {
   protected:

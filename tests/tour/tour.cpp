@@ -317,14 +317,13 @@ class Tour {
         TakePage(page, "help page", "help-page.png");
     }
 
-    /// A picture of a web page, where there is a browser that can take one.
+    /// A picture of a web page in a browser.
     void TakePage(const fs::path& page, const std::string& what, const std::string& file) {
         const fs::path picture = desktop_.Folder() / file;
-        const bool taken = desktop_.Manages({"chromium", "--headless", "--no-sandbox", "--disable-gpu",
-                                             "--hide-scrollbars", "--window-size=1000,1400",
-                                             "--screenshot=" + picture.string(), "file://" + page.string()});
-        if (taken && fs::exists(picture))
-            fs::copy_file(picture, album_.Add(what, file));
+        desktop_.Do({"chromium", "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars",
+                     "--window-size=1000,1400", "--screenshot=" + picture.string(),
+                     "file://" + page.string()});
+        fs::copy_file(picture, album_.Add(what, file));
     }
 
     void End() {

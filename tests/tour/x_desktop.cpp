@@ -252,14 +252,6 @@ std::vector<Words> XDesktop::Viewed() const {
     return starts;
 }
 
-bool XDesktop::Manages(const Words& words) const {
-    try {
-        return TryOutputOf(words, environment_, Log()).has_value();
-    } catch (const Fault&) {
-        return false;
-    }
-}
-
 std::string XDesktop::Complaints() const {
     return ReadFile(Log());
 }

@@ -68,8 +68,6 @@ class XDesktop {
     /// The output of another program run on this desktop.
     [[nodiscard]] std::string Run(const Words& words) const { return OutputOf(words, environment_, Log()); }
     void Do(const Words& words) const { static_cast<void>(Run(words)); }
-    /// Whether another program is there and does its work.
-    [[nodiscard]] bool Manages(const Words& words) const;
 
   private:
     [[nodiscard]] std::filesystem::path Log() const { return Folder() / "log"; }

@@ -17,6 +17,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <utility>
@@ -84,6 +85,14 @@ class QtCommonDialogTest : public testing::Test {
     QtCommonDialog prompt{start, input};
     QStringList questions;
 };
+
+TEST_F(QtCommonDialogTest, StartsInTheDocumentsOrAtHome) {
+    ::setenv("HOME", home.path().toLocal8Bit(), 1);
+    ::unsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(PromptFolder().Path, home.path());
+    EXPECT_TRUE(QDir(home.path()).mkdir("Documents"));
+    EXPECT_EQ(PromptFolder().Path, home.filePath("Documents"));
+}
 
 TEST_F(QtCommonDialogTest, GivesATypedNameTheExtensionOfTheSelectedEntry) {
     struct Row {
