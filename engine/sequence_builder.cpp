@@ -95,11 +95,11 @@ bool SequenceBuilder::IsAccepted(std::span<const std::int16_t> numbers) {
         return true;
     }
     if (!CanPassRunsTest(numbers, settings_.SigLevel))
-        throw Failure("a block of " + std::to_string(numbers.size()) +
+        throw Failure("A block of " + std::to_string(numbers.size()) +
                           " subjects cannot pass the Runs test at level " + SevenDigits(settings_.SigLevel),
                       failure_number::CannotPassRunsTest, "BuildSequenceArr");
     if (!result.Computed)
-        throw Failure("the Runs test of a block could not be done", failure_number::OutOfMemory,
+        throw Failure("The Runs test of a block could not be done", failure_number::OutOfMemory,
                       "BuildSequenceArr");
     return false;
 }

@@ -80,7 +80,7 @@ void CreateCodeArr(const ListSettings& settings, ListResults& results, UniformSo
                    TimeOfDay& clock) {
     const std::int16_t listSize = SumArr(results.BlockSizes);
     if (listSize > CodesAvailable(settings.CodeAlphaNum, settings.CodeSeqRandom, settings.CodeLength))
-        throw Failure("code length " + std::to_string(settings.CodeLength) + " is too short for a list of " +
+        throw Failure("Code length " + std::to_string(settings.CodeLength) + " is too short for a list of " +
                           std::to_string(listSize) + " subjects",
                       failure_number::TooLarge, "CreateCodeArr");
 

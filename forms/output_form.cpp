@@ -24,7 +24,7 @@ class GatheredText : public OutputText {
         // The box ends a line at a lone line feed too.
         lines_ += 1 + std::count(text.begin(), text.end(), '\n');
         if (lines_ > MostLines)
-            throw Failure("the file has too many lines to be shown as a whole", failure_number::TooLarge,
+            throw Failure("The file has too many lines to be shown as a whole", failure_number::TooLarge,
                           "OutputFrm");
         text_.append(text).push_back('\n');
     }

@@ -116,7 +116,7 @@ void BlockSizeList::DrawBlocks(const std::vector<std::int16_t>& pool) {
     random_.UniformReseed(clock_.SecondsSinceMidnight());
     results_.BlockSizes.assign(1, 0);
     if (pool.size() == 1)
-        throw Failure("the list of block sizes stands for no size", failure_number::OutOfRange, "BuildArr");
+        throw Failure("The list of block sizes stands for no size", failure_number::OutOfRange, "BuildArr");
     const std::int16_t last = ToInt16(static_cast<double>(pool.size() - 1));
     std::int16_t sum = 0;
     do {

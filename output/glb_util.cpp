@@ -22,7 +22,7 @@ class ClipboardBlock {
     ClipboardBlock(Clipboard& clipboard, std::size_t bytes)
         : clipboard_(clipboard), handle_(clipboard.GlobalAlloc(MoveableZeroedBlock, bytes)) {
         if (handle_ == 0)
-            throw Failure("there is no memory for the " + std::to_string(bytes) + " bytes of the list",
+            throw Failure("There is no memory for the " + std::to_string(bytes) + " bytes of the list",
                           failure_number::OutOfMemory, "GlobalAlloc");
     }
     ClipboardBlock(const ClipboardBlock&) = delete;
@@ -35,7 +35,7 @@ class ClipboardBlock {
     void Fill(const std::string& bytes) {
         char* const address = clipboard_.GlobalLock(handle_);
         if (address == nullptr)
-            throw Failure("the memory block for the clipboard cannot be locked", failure_number::OutOfMemory,
+            throw Failure("The memory block for the clipboard cannot be locked", failure_number::OutOfMemory,
                           "GlobalLock");
         clipboard_.lstrcpy(address, bytes);
     }
@@ -56,7 +56,7 @@ class ClipboardBlock {
 
 std::string ClipboardBytes(const std::string& text, const CodePage& page) {
     if (text.find('\0') != std::string::npos)
-        throw Failure("the clipboard cannot hold the character U+0000", failure_number::UnmappableCharacter,
+        throw Failure("The clipboard cannot hold the character U+0000", failure_number::UnmappableCharacter,
                       "CopyTextToClipboard");
     return page.Encode(text, Unmappable::Fail);
 }
@@ -82,11 +82,11 @@ Failure CurrentFailure() {
     } catch (const Failure& failure) {
         return failure;
     } catch (const std::bad_alloc&) {
-        return {"out of memory", failure_number::OutOfMemory, "memory"};
+        return {"Out of memory", failure_number::OutOfMemory, "memory"};
     } catch (const std::exception& unexpected) {
         return {unexpected.what(), failure_number::Unexpected, "the program"};
     } catch (...) {
-        return {"an unknown failure", failure_number::Unexpected, "the program"};
+        return {"An unknown failure", failure_number::Unexpected, "the program"};
     }
 }
 
@@ -118,7 +118,7 @@ bool CopyTextToClipboard(const std::string& text, Clipboard& clipboard, const Co
     const bool taken = block.GiveToClipboard();
     CloseTheClipboard(clipboard, messages);
     if (!taken)
-        throw Failure("the clipboard did not take the list", failure_number::NoClipboard, "SetClipboardData");
+        throw Failure("The clipboard did not take the list", failure_number::NoClipboard, "SetClipboardData");
     return false;
 }
 

@@ -20,7 +20,7 @@ void mnuOutput_Click(std::int16_t Index, OutputMenu& menu, ListSettings& setting
     for (std::int16_t item = 0; item < count; ++item)
         menu.SetChecked(item, false);
     if (Index < 0 || Index >= count)
-        throw Failure("there is no output channel " + std::to_string(Index), failure_number::OutOfRange,
+        throw Failure("There is no output channel " + std::to_string(Index), failure_number::OutOfRange,
                       "mnuOutput_Click");
     menu.SetChecked(Index, true);
     settings.OutputOption = Index;

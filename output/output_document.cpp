@@ -35,7 +35,7 @@ void OutputDocument::ReadInto(OutputText& text) {
         const std::string line = file.ReadLine();
         shown += line.size() + LineEnd.size();
         if (shown > LargestFile)
-            throw Failure("the file " + OutputFileName_ + " is too large to be shown as a whole",
+            throw Failure("The file " + OutputFileName_ + " is too large to be shown as a whole",
                           failure_number::TooLarge, "OutputFrm");
         text.AppendLine(line);
     }

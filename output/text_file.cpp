@@ -70,7 +70,7 @@ void TextFileReader::SkipLineFeed() {
 
 std::string TextFileReader::ReadLine() {
     if (AtEnd())
-        throw Failure("the file " + path_ + " ends too early", failure_number::EndOfFile, "reading a line");
+        throw Failure("The file " + path_ + " ends too early", failure_number::EndOfFile, "reading a line");
     std::size_t end = buffer_.find('\r', next_);
     while (end == std::string::npos) {
         const std::size_t searched = buffer_.size() - next_;
@@ -81,7 +81,7 @@ std::string TextFileReader::ReadLine() {
     const bool ended = end != std::string::npos;
     const std::size_t length = (ended ? end : buffer_.size()) - next_;
     if (length > LongestLine)
-        throw Failure("a line of the file " + path_ + " is too long", failure_number::TooLarge,
+        throw Failure("A line of the file " + path_ + " is too long", failure_number::TooLarge,
                       "reading a line");
     std::string line = page_.Decode(std::string_view(buffer_).substr(next_, length));
     next_ += length + (ended ? 1 : 0);

@@ -34,7 +34,7 @@ std::string FreeTemporaryPath(const Platform& desktop) {
         if (!desktop.FileSystem.Exists(path))
             return path;
     }
-    throw Failure("no name is free for a temporary file in the folder " + desktop.ProgramDirectory,
+    throw Failure("No name is free for a temporary file in the folder " + desktop.ProgramDirectory,
                   failure_number::OutOfRange, "OutputToWindow");
 }
 

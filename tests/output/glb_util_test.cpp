@@ -24,9 +24,9 @@ TEST(WithFailurePath, CleansUpThenReportsAnyExceptionOnce) {
         {cancel, false, Report("Cancel was selected.", 32755, "CommonDialog")},
         {[] { throw Failure("", -7, ""); }, true,
          "Error Description: \r\nError Number: -7\r\nError Source: "},
-        {[] { throw std::bad_alloc(); }, false, Report("out of memory", 20010, "memory")},
+        {[] { throw std::bad_alloc(); }, false, Report("Out of memory", 20010, "memory")},
         {[] { throw std::logic_error("odd"); }, true, Report("odd", 20099, "the program")},
-        {[] { throw 1; }, false, Report("an unknown failure", 20099, "the program")},
+        {[] { throw 1; }, false, Report("An unknown failure", 20099, "the program")},
     };
     for (const Row& row : table) {
         fakes::ScriptedMessageBox messages;
@@ -75,10 +75,10 @@ TEST(CopyTextToClipboard, GoesDownTheLadder) {
     const std::string noOpen = "Could not open the Clipboard. Copy aborted.";
     const std::string noClose = "Could not close Clipboard.";
     const std::string noMemory =
-        Report("there is no memory for the 359 bytes of the list", 20010, "GlobalAlloc");
+        Report("There is no memory for the 359 bytes of the list", 20010, "GlobalAlloc");
     const std::string noAddress =
-        Report("the memory block for the clipboard cannot be locked", 20010, "GlobalLock");
-    const std::string notTaken = Report("the clipboard did not take the list", 20011, "SetClipboardData");
+        Report("The memory block for the clipboard cannot be locked", 20010, "GlobalLock");
+    const std::string notTaken = Report("The clipboard did not take the list", 20011, "SetClipboardData");
     const std::vector<Row> table = {
         {[](Board&) {}, given, {BoardSuccess}, false},
         {[](Board& b) { b.CannotClose = true; }, given, {noClose, BoardSuccess}, false},

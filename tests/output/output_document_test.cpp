@@ -68,7 +68,7 @@ TEST(OutputDocument, ShowsWhatItCanReadOfAFile) {
     EXPECT_EQ(show(largest), "");
     EXPECT_FALSE(desk.desktop.pointer.Busy);
     EXPECT_EQ(show(largest + "more"),
-              Report("the file /x/f.txt is too large to be shown as a whole", 20012, "OutputFrm"));
+              Report("The file /x/f.txt is too large to be shown as a whole", 20012, "OutputFrm"));
     EXPECT_TRUE(desk.desktop.pointer.Busy);
     EXPECT_EQ(desk.window.Text.size(), OutputDocument::LargestFile);
     desk.desktop.files.ReadableBytes = chunk.size() - 1;
