@@ -18,8 +18,8 @@
 #include "ui_main_form.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QScreen>
-#include <QShortcut>
 
 namespace orvane {
 
@@ -98,12 +98,6 @@ void MainForm::ConnectControls() {
     ui_->SampSizeTxt->OnGotFocus([this] { guard_.Handle([this] { SampSizeTxt_GotFocus(); }); });
     connect(ui_->cmdGenerate, &QPushButton::clicked, this,
             [this] { Command([this] { cmdGenerate_Click(); }); });
-    // A default button works by itself in dialogs alone.
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* enter = new QShortcut(QKeySequence(key), this);
-        enter->setAutoRepeat(false);
-        connect(enter, &QShortcut::activated, ui_->cmdGenerate, &QPushButton::click);
-    }
 }
 
 void MainForm::ConnectGroupNames() {
@@ -167,6 +161,15 @@ void MainForm::closeEvent(QCloseEvent* event) {
     if (!std::exchange(unloaded_, true))
         guard_.Handle([this] { Form_Unload(); });
     event->accept();
+}
+
+/// A default button works by itself in dialogs alone. The controls hand Enter on to their window.
+void MainForm::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter || (event->modifiers() & ~Qt::KeypadModifier) != 0)
+        return QMainWindow::keyPressEvent(event);
+    if (!event->isAutoRepeat())
+        ui_->cmdGenerate->click();
 }
 
 void MainForm::nogHsb_Change() {

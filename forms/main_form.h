@@ -36,6 +36,8 @@ class MainForm : public QMainWindow {
     /// Closing writes the settings for the next run. A close that arrives while the window is at work is
     /// ignored.
     void closeEvent(QCloseEvent* event) override;
+    /// Enter presses cmdGenerate wherever the focus is.
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void Form_Load();

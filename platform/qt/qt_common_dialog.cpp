@@ -21,7 +21,7 @@ namespace {
 constexpr const char* Source = "CommonDialog";
 constexpr QSize PromptSize(780, 480);
 
-/// Whether the desktop shows its own prompt instead of the toolkit's widgets. To be asked after the show.
+/// Whether the desktop shows its own prompt instead of the toolkit's widgets.
 bool IsNative(const QFileDialog& dialog) {
     return dialog.findChild<QLineEdit*>() == nullptr;
 }
@@ -48,9 +48,9 @@ QString TypedPath(QFileDialog& dialog) {
     return typed;
 }
 
-bool IsOverwriteAccepted(const QString& path) {
+bool IsOverwriteAccepted(const QString& path, const QString& title) {
     QMessageBox question(
-        QMessageBox::Warning, QFileDialog::tr("Save As"),
+        QMessageBox::Warning, title,
         QFileDialog::tr("%1 already exists.\nDo you want to replace it?").arg(QDir::toNativeSeparators(path)),
         QMessageBox::Yes | QMessageBox::No, OwnerWindow());
     question.setTextFormat(Qt::PlainText);
@@ -79,7 +79,9 @@ void QtCommonDialog::Show(Kind kind) {
     QFileDialog dialog(OwnerWindow(), QString::fromStdString(DialogTitle));
     dialog.setAcceptMode(kind == Kind::Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(kind == Kind::Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite, (Flags & OverwritePrompt) == 0);
+    // In front of its own prompt the toolkit's question would take the focus away from it for good where no
+    // window manager gives it back.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !AsksToOverwrite(kind) || !IsNative(dialog));
     dialog.resize(PromptSize);
     ShowColumnsInFull(dialog);
     dialog.setSupportedSchemes({QStringLiteral("file")});
@@ -99,7 +101,7 @@ void QtCommonDialog::Show(Kind kind) {
             throw Failure("Cancel was selected.", failure_number::Cancelled, Source);
         followEntry();
         path = dialog.selectedFiles().value(0);
-    } while (!IsToBeTaken(dialog, path));
+    } while (!IsToBeTaken(dialog, path, kind));
     folder_.Path = QFileInfo(path).absolutePath();
     FileName = QDir::toNativeSeparators(path).toStdString();
 }
@@ -114,16 +116,20 @@ void QtCommonDialog::Offer(QFileDialog& dialog) const {
         dialog.selectFile(offered.fileName());
 }
 
-bool QtCommonDialog::IsToBeTaken(QFileDialog& dialog, const QString& path) const {
+bool QtCommonDialog::AsksToOverwrite(Kind kind) const {
+    return kind == Kind::Save && (Flags & OverwritePrompt) != 0;
+}
+
+bool QtCommonDialog::IsToBeTaken(QFileDialog& dialog, const QString& path, Kind kind) const {
     if (path.isEmpty())
         throw Failure("The prompt gave no file name.", failure_number::InvalidArgument, Source);
-    const bool asks = dialog.acceptMode() == QFileDialog::AcceptSave && (Flags & OverwritePrompt) != 0;
     // The desktop's own prompt has asked about the name as it was typed, not about the one with its
     // extension.
-    if (!asks || !IsNative(dialog) || TypedPath(dialog) == path || !QFileInfo::exists(path))
+    const bool asked = !dialog.testOption(QFileDialog::DontConfirmOverwrite) && TypedPath(dialog) == path;
+    if (!AsksToOverwrite(kind) || asked || !QFileInfo::exists(path))
         return true;
     dialog.selectFile(path);
-    return IsOverwriteAccepted(path);
+    return IsOverwriteAccepted(path, dialog.windowTitle());
 }
 
 } // namespace orvane

@@ -32,7 +32,8 @@ class QtCommonDialog : public CommonDialog {
     void Show(Kind kind);
     void Offer(QFileDialog& dialog) const;
     /// Whether the path that an accepted prompt gives can be taken; if not, the prompt has to come back.
-    [[nodiscard]] bool IsToBeTaken(QFileDialog& dialog, const QString& path) const;
+    [[nodiscard]] bool IsToBeTaken(QFileDialog& dialog, const QString& path, Kind kind) const;
+    [[nodiscard]] bool AsksToOverwrite(Kind kind) const;
 
     PromptFolder& folder_;
     QtInputDrain& input_;

@@ -60,13 +60,15 @@ class QtCommonDialogTest : public testing::Test {
             use(*dialog);
         });
     }
-    /// Answers the question that the next step in the prompt asks, and keeps it.
-    void Answer(QMessageBox::StandardButton answer) {
-        QTimer::singleShot(0, [this, answer] {
+    /// Answers the question that comes behind the prompt, and keeps it.
+    void Answer(
+        QMessageBox::StandardButton answer, std::function<void()> then = [] {}) {
+        QTimer::singleShot(0, [this, answer, then = std::move(then)] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
             questions += box->text();
             box->button(answer)->click();
+            then();
         });
     }
     static void ExpectCancelled(const std::function<void()>& show) {
@@ -128,12 +130,15 @@ TEST_F(QtCommonDialogTest, GivesATypedNameTheExtensionOfTheSelectedEntry) {
 }
 
 TEST_F(QtCommonDialogTest, AsksBeforeAFileIsReplacedUnderItsFullName) {
-    InPrompt([&](QFileDialog& dialog) {
-        Answer(QMessageBox::No);
-        TypeAndChoose(dialog, "list", QDialogButtonBox::Save);
-        EXPECT_TRUE(dialog.isVisible());
+    const auto sayYes = [&](QFileDialog& dialog) {
+        EXPECT_EQ(NameOf(dialog).text(), "list.htm");
+        EXPECT_EQ(dialog.focusWidget(), &NameOf(dialog));
         Answer(QMessageBox::Yes);
         Choose(dialog, QDialogButtonBox::Save);
+    };
+    InPrompt([&](QFileDialog& dialog) {
+        Answer(QMessageBox::No, [&] { InPrompt(sayYes); });
+        TypeAndChoose(dialog, "list", QDialogButtonBox::Save);
     });
     prompt.ShowSave();
     EXPECT_EQ(prompt.FileName, PathOf("list.htm"));
