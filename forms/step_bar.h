@@ -6,37 +6,20 @@
 
 namespace orvane {
 
-/// The toolkit's bar steps down at Right and up at Left. Here Right, Down and Page Down step up, and Left, Up
-/// and Page Up step down, as the arrows and the track do.
+/// The toolkit's bar steps down at Right and up at Left. Here they go with Down and Up, and with the arrows
+/// and the track.
 class StepBar : public QScrollBar {
   public:
     explicit StepBar(QWidget* parent = nullptr) : QScrollBar(Qt::Horizontal, parent) {}
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {
-        const SliderAction action = ActionOf(event->key());
-        if (action == SliderNoAction)
-            QScrollBar::keyPressEvent(event);
+        if (event->key() == Qt::Key_Right)
+            triggerAction(SliderSingleStepAdd);
+        else if (event->key() == Qt::Key_Left)
+            triggerAction(SliderSingleStepSub);
         else
-            triggerAction(action);
-    }
-
-  private:
-    static SliderAction ActionOf(int key) {
-        switch (key) {
-        case Qt::Key_Right:
-        case Qt::Key_Down:
-            return SliderSingleStepAdd;
-        case Qt::Key_Left:
-        case Qt::Key_Up:
-            return SliderSingleStepSub;
-        case Qt::Key_PageDown:
-            return SliderPageStepAdd;
-        case Qt::Key_PageUp:
-            return SliderPageStepSub;
-        default:
-            return SliderNoAction;
-        }
+            QScrollBar::keyPressEvent(event);
     }
 };
 

@@ -45,6 +45,7 @@ TEST(Numbers, TheLongestStartOfATextThatIsANumberCounts) {
         {"2d2", 200},
         {"&HFFFF", 65535},
         {"&h1g", 1},
+        {"&hfFa", 4090},
         {"&O17", 15},
         {"&o8", 0},
         {"&H", 0},

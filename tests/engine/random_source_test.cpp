@@ -169,6 +169,24 @@ TEST(RandomSource, AReseedDependsOnTheKeyAndOnEveryBitOfTheValue) {
     EXPECT_EQ(firstValues.size(), 2 * std::size(values));
 }
 
+TEST(RandomSource, AReseedOverwritesTheValuesThatWerePrepared) {
+    SetEntropy entropy;
+    SetEntropy sameEntropy;
+    RandomSource source(entropy);
+    RandomSource twin(sameEntropy);
+    std::vector<float> values(BatchValues);
+    twin.UniformFill(values);
+    source.UniformNext();
+    const auto memory = std::as_bytes(std::span(&source, 1));
+    const auto prepared = std::as_bytes(std::span(values).subspan(100, 2));
+    const auto found = [&] {
+        return std::search(memory.begin(), memory.end(), prepared.begin(), prepared.end()) != memory.end();
+    };
+    EXPECT_TRUE(found());
+    source.UniformReseed(1);
+    EXPECT_FALSE(found());
+}
+
 TEST(RandomSource, TheValuesAreEvenInEveryBitAndWithinTheirGrid) {
     TrueEntropy entropy;
     RandomSource source(entropy);

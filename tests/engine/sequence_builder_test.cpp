@@ -177,11 +177,5 @@ TEST(SequenceBuilder, ABlockTooLargeToCountItsExchangesIsAFailure) {
     EXPECT_EQ(bench.desktop.random.Consumed, 0U);
 }
 
-TEST(SequenceBuilder, TheRuledLineFollowsTheColumns) {
-    const std::vector<int> widths = {20, 35, 55, 75, 95, 110, 130, 137, 142, 148};
-    for (std::int16_t columns = 1; columns <= 10; ++columns)
-        EXPECT_EQ(GetMaxEq(columns), widths[static_cast<std::size_t>(columns - 1)]);
-}
-
 } // namespace
 } // namespace orvane

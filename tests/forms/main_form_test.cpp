@@ -190,6 +190,7 @@ TEST_F(MainFormTest, StartsWithoutSettingsAfterOneReportOverTheWindow) {
     EXPECT_EQ(Marks(), "x--");
     EXPECT_TRUE(The<QCheckBox>("SaveExitChk").isChecked());
     EXPECT_EQ(dialog.Flags, CommonDialog::OverwritePrompt);
+    EXPECT_EQ(outputDialog.DialogTitle, "Save to File As...");
     EXPECT_FALSE(form->windowIcon().pixmap(32).isNull());
     EXPECT_EQ(Current(), std::tuple(1, 0));
     TempTxt().TakeFocus();
@@ -233,6 +234,9 @@ TEST_F(MainFormTest, TheBarSetsTheNumberOfGroups) {
     for (const auto& [key, groups] : std::vector<std::tuple<Qt::Key, int>>{{Qt::Key_Left, 2},
                                                                            {Qt::Key_Right, 3},
                                                                            {Qt::Key_PageDown, 4},
+                                                                           {Qt::Key_Down, 5},
+                                                                           {Qt::Key_Up, 4},
+                                                                           {Qt::Key_PageUp, 3},
                                                                            {Qt::Key_End, 16},
                                                                            {Qt::Key_Right, 16}}) {
         Press(key);
@@ -295,6 +299,12 @@ TEST_F(MainFormTest, ANameIsPickedWithTheMouseAndTypedOver) {
     EXPECT_EQ(TempTxt().selectedText(), "Group 3");
     EXPECT_EQ(Current(), std::tuple(3, 1));
     EXPECT_EQ(GroupNames(), (Names{"", "xy ", "Group 3"}));
+    const auto middle = [&](int row) { return Grid().visualRect(Grid().model()->index(row, 1)).center(); };
+    QTest::mouseClick(Grid().viewport(), Qt::RightButton, {}, middle(2));
+    EXPECT_EQ(Current(), std::tuple(3, 1));
+    QTest::mousePress(Grid().viewport(), Qt::LeftButton, {}, middle(3));
+    QTest::mouseRelease(Grid().viewport(), Qt::LeftButton, {}, QPoint(-9, -9)); // no click
+    EXPECT_EQ(Focus(), "GroupNameGrid");
 
     const QImage image = Grid().viewport()->grab().toImage();
     const auto colour = [&](int row, int col) {
@@ -324,6 +334,10 @@ TEST_F(MainFormTest, ArrowKeysMoveTheCurrentCellAndTheEditorFollows) {
     Press(Qt::Key_Tab);
     Type("x");
     EXPECT_EQ(GroupNames()[14], "x");
+    Grid().setFocus();
+    for (int page = 0; page < 9; ++page)
+        Press(Qt::Key_PageUp);
+    EXPECT_EQ(Current(), std::tuple(1, 1));
     Press(Qt::Key_Escape);
     EXPECT_TRUE(form->isVisible());
 }
@@ -371,7 +385,19 @@ TEST_F(MainFormTest, ASampleSizeThatCannotBeUsedIsRefusedWithTheFocusOnItsBox) {
     refused("-5", "please specify the sample size", [&] { Item("mnuView_1").trigger(); });
     refused("-5", "please specify the sample size", [&] { Item("mnuSequence_2").trigger(); });
     refused("", "please specify the sample size", [&] { Click(*form, "cmdGenerate"); });
+    refused("-5", "please specify the sample size", [&] {
+        SampSizeTxt().TakeFocus();
+        SampSizeTxt().deselect();
+        Press(Qt::Key_Return);
+    });
     refused("99999", "the sample size can be at most 32767", [&] { Click(*form, "cmdGenerate"); });
+}
+
+TEST_F(MainFormTest, AnEnterKeyThatIsHeldDownGeneratesOnce) {
+    Open();
+    TypeInto(SampSizeTxt(), "");
+    QTest::simulateEvent(QApplication::focusWidget(), true, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    EXPECT_EQ(desktop.messages.TakeAll(), Names{});
 }
 
 TEST_F(MainFormTest, EnterGeneratesWhereverTheFocusIs) {
@@ -402,9 +428,13 @@ TEST_F(MainFormTest, SettingsAreLoadedAndRefusedThroughThePrompt) {
     EXPECT_EQ(SampSizeTxt().Text(), "12abc");
     EXPECT_EQ(The<QScrollBar>("nogHsb").value(), 3);
     EXPECT_EQ(Marks(), "-x-");
-    Item("mnuOutput_0").trigger();
-    Item("mnuOutput_0").trigger();
-    EXPECT_EQ(Marks(), "x--");
+    for (const auto& [item, marks] : {std::pair("mnuOutput_2", "--x"),
+                                      {"mnuOutput_1", "-x-"},
+                                      {"mnuOutput_0", "x--"},
+                                      {"mnuOutput_0", "x--"}}) {
+        Item(item).trigger();
+        EXPECT_EQ(Marks(), marks);
+    }
     for (const std::string count : {"1", "17", "x", "40000"}) {
         Load("\r\n" + count + "\r\n");
         EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: ")) << count;

@@ -208,6 +208,12 @@ TEST_F(OptionsFormTest, LoadedValuesOutOfRangeAreShownAsTheNearest) {
         EXPECT_EQ(settings.Columns, 10);
         Cancel(window);
     });
+    settings.Columns = 0;
+    settings.CellSpacing = 6;
+    Open([&](QDialog& window) {
+        EXPECT_EQ(Shown(window, "ColLbl") + Shown(window, "lblCellSp"), "15");
+        Cancel(window);
+    });
     EXPECT_EQ(Restored(), before);
 }
 
@@ -221,7 +227,7 @@ void ChangeAll(QDialog& window, const ListSettings& settings) {
             QTest::keyClicks(&box, key);
     };
     const auto up = [&](const std::string& bar) {
-        QTest::keyClick(&Find<QScrollBar>(window, bar), Qt::Key_Right);
+        QTest::keyClick(&Find<QScrollBar>(window, bar), Qt::Key_PageDown);
     };
     Click(window, "BlkOpt_1");
     type("EqBlockSizeTxt", "1 x");
@@ -398,7 +404,10 @@ TEST_F(OptionsFormTest, WithoutAnySettingsTheLevelShowsZeroAndIsRefused) {
         EXPECT_EQ(Find<LineBox>(window, "txtLevel").Text(), "0");
         Press(Qt::Key_Return);
         EXPECT_NE(desktop.messages.Take(), "");
-        Type("0.3");
+        Type("9");
+        Press(Qt::Key_Return);
+        EXPECT_NE(desktop.messages.Take(), "");
+        Type("0.3"); // over the whole text
         Press(Qt::Key_Return);
     });
     EXPECT_EQ(settings.SigLevel, 0.3F);

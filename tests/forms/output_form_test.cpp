@@ -52,6 +52,11 @@ TEST_F(OutputFormTest, ShowsTheFileAndDeletesItAtTheCloseIfItIsTemporary) {
             EXPECT_EQ(window.size(), QSize(697, 447));
             EXPECT_EQ(Text(window), "001: Group 1        002: Gr\u00FCppe\n==========\n");
             EXPECT_FALSE(desktop.pointer.Busy);
+            EXPECT_TRUE(window.windowFlags() & Qt::WindowMaximizeButtonHint);
+            const auto& box = Find<QPlainTextEdit>(window, "OutputTxt");
+            EXPECT_EQ(box.lineWrapMode(), QPlainTextEdit::NoWrap); // else no column lines up
+            EXPECT_EQ(box.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+            EXPECT_EQ(box.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
             window.resize(900, 700);
             QTest::qWait(1);
             EXPECT_EQ(Find<QWidget>(window, "CloseCmd").geometry(), QRect(384, 400, 81, 33));
@@ -103,16 +108,6 @@ TEST_F(OutputFormTest, KeysOfTheText) {
         Press(Qt::Key_Return);
     });
     EXPECT_FALSE(desktop.files.Contents.contains(path));
-}
-
-TEST_F(OutputFormTest, UnreadableFileIsReportedAndTheWindowOpensEmpty) {
-    desktop.files.ReadableBytes = 0;
-    Open([&](QDialog& window) {
-        EXPECT_NE(desktop.messages.Take().find("cannot read"), std::string::npos);
-        EXPECT_EQ(Text(window), "");
-        EXPECT_TRUE(desktop.pointer.Busy);
-        window.close();
-    });
 }
 
 TEST_F(OutputFormTest, OfAFileWithTooManyLinesItShowsWhatWasRead) {

@@ -70,6 +70,7 @@ TEST(OptionValidation, RandomBlocksGoOnUntilTheyPassTheSampleSize) {
         {5, 3, {Highest, Highest}, {3, 3}},
         {8, 2, {Highest}, {2, 2, 2, 2, 2}},
         {1, 16, {}, {16}},
+        {18, 2, {}, {4, 4, 4, 4, 4}}, // 1 + 9 gives a lower end of 2
     };
     for (const Row& row : rows) {
         OptionsBench bench;
@@ -187,9 +188,15 @@ TEST(OptionValidation, RefusesListsThatCannotBeMade) {
     bench.Option(RandomSizesOf, "2,18");
     bench.desktop.random.List({0.9F, 0});
     check(bench, runs("2", "0.05"));
+    bench.desktop.random.List({0, 0.9F});
+    check(bench, runs("2", "0.05"));
     bench.Set(2, 32767);
     bench.Option(RandomBlockSize);
     check(bench, sum);
+    bench.Set(7, 32760); // 4681 blocks of 7 are 32767 subjects
+    bench.settings.PerformRuns = false;
+    bench.Option(EqualSize, "7");
+    check(bench, "");
 }
 
 TEST(OptionValidation, AFailureOfTheRandomSourceIsNoFaultOfTheOptions) {

@@ -148,6 +148,9 @@ TEST(ClipboardReport, RefusesACellWiderThanItsColumn) {
                   row.refused.empty() ? BoardSuccess
                                       : Report(row.refused + advice, 20003, "OutputToClipBoard"));
         EXPECT_EQ(desk.desktop.board.Calls.empty(), !row.refused.empty());
+        if (row.name == "äöüäöüäö") {
+            EXPECT_EQ(desk.desktop.board.Content.substr(10, 10), ": \xE4\xF6\xFC\xE4\xF6\xFC\xE4\xF6");
+        }
         EXPECT_EQ(desk.desktop.random.Consumed, row.refused.empty() ? 160U : 80U);
     }
 }

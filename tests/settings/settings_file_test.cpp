@@ -58,6 +58,7 @@ TEST(SettingsFile, WhatWasWrittenReadsBack) {
                                      {"", "", "", "", ""},
                                      {" a ", "\t", "  ", " 4 ", ",,"},
                                      {page, page, page, page, page},
+                                     {std::string(TextFileReader::LongestLine, 'x'), "", "", "", ""},
                                      {"\n", "\nb", "c\n", "\n\n", "\n4"}};
     for (const Texts& row : rows) {
         ExampleBench bench;

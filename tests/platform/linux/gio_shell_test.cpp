@@ -21,10 +21,10 @@ class StubDesktop {
         // Tells how many arguments there are, then each on its line; complete when it has its name.
         const std::string part = "'" + folder.Path("part") + "'";
         Register("viewer", folder.Put("bin/viewer",
-                                      "#!/bin/sh\nprintf '%s\\n' \"$#\" \"$@\" > " + part + "\nmv " + part +
-                                          " '" + folder.Path("told") + "'\n",
+                                      "#! /bin/sh -e\nprintf '%s\\n' \"$#\" \"$@\" > " + part + "\nmv " +
+                                          part + " '" + folder.Path("told") + "'\n",
                                       true));
-        Register("broken", folder.Put("bin/broken", "#!/no/such/interpreter\n", true));
+        Register("broken", folder.Put("bin/broken", "#! /no/such/interpreter\n", true));
         folder.Put("config/mimeapps.list", "[Default Applications]\ntext/html=viewer.desktop\n"
                                            "text/plain=viewer.desktop\nimage/png=broken.desktop\n");
         ::setenv("XDG_DATA_HOME", folder.Path("data").c_str(), 1);

@@ -13,6 +13,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace orvane {
 namespace {
@@ -86,9 +87,22 @@ TEST_F(LinuxFilesTest, TellsPathNumberAndWhatWentWrong) {
     EXPECT_EQ(folder.Get("plain"), "kept");
 }
 
+TEST_F(LinuxFilesTest, TellsThatAFileCouldNotBeClosed) {
+    const std::string path = folder.Path("list");
+    const int next = ::dup(0); // the number that the file gets
+    ::close(next);
+    const auto file = files.OpenForOutput(path);
+    ASSERT_EQ(::close(next), 0);
+    ExpectFailure(EBADF, path, "closed", [&] { file->Close(); });
+}
+
 TEST_F(LinuxFilesTest, CreatesAPrivateFileThatWasNotThere) {
     files.CreatePrivate(folder.Path("new"))->Write("x");
     EXPECT_EQ(std::filesystem::status(folder.Path("new")).permissions(), std::filesystem::perms(0600));
+    const mode_t before = ::umask(0022);
+    files.OpenForOutput(folder.Path("shared"))->Write("x");
+    ::umask(before);
+    EXPECT_EQ(std::filesystem::status(folder.Path("shared")).permissions(), std::filesystem::perms(0644));
     std::filesystem::create_symlink(folder.Path("new"), folder.Path("link"));
     std::filesystem::create_symlink(folder.Path("victim"), folder.Path("dangling"));
     for (const std::string& path : {folder.Path("new"), folder.Path("link"), folder.Path("dangling")}) {

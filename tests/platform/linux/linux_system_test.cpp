@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <csignal>
 #include <cstddef>
 #include <cstdlib>
 #include <ctime>
@@ -15,6 +16,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <sys/time.h>
 
 namespace orvane {
 namespace {
@@ -68,9 +71,23 @@ TEST(LinuxClock, CountsFromLocalMidnight) {
     }
 }
 
+TEST(LinuxClock, HasFractions) {
+    float fraction = 0;
+    for (int look = 0; look < 100'000'000 && fraction == 0; ++look)
+        fraction = std::fmod(LinuxClock().SecondsSinceMidnight(), 1.0F);
+    EXPECT_GT(fraction, 0.0F);
+}
+
 TEST(LinuxEntropy, FillsToTheLastByte) {
-    std::vector<std::byte> bytes(40'000'000); // more than the kernel gives at once
+    // A signal makes the kernel give less than was asked for.
+    std::signal(SIGALRM, [](int) {});
+    const itimerval often{{0, 1000}, {0, 1000}};
+    ::setitimer(ITIMER_REAL, &often, nullptr);
+    std::vector<std::byte> bytes(40'000'000);
     LinuxEntropy().Fill(bytes);
+    const itimerval never{};
+    ::setitimer(ITIMER_REAL, &never, nullptr);
+    std::signal(SIGALRM, SIG_DFL);
     const auto tail = std::span(bytes).last(32);
     EXPECT_TRUE(std::any_of(tail.begin(), tail.end(), [](std::byte b) { return b != std::byte{0}; }));
 }

@@ -37,7 +37,7 @@ class QtCommonDialogTest : public testing::Test {
         prompt.DialogTitle = "Save Orvane File As...";
         prompt.FileName = "output";
         prompt.Flags = CommonDialog::OverwritePrompt;
-        for (const char* const name : {"list", "list.htm"})
+        for (const char* const name : {"list", "list.htm", "other.txt"})
             EXPECT_TRUE(QFile(home.filePath(name)).open(QIODevice::WriteOnly));
         EXPECT_TRUE(QDir(home.path()).mkdir("below"));
     }
@@ -143,6 +143,16 @@ TEST_F(QtCommonDialogTest, AsksBeforeAFileIsReplacedUnderItsFullName) {
     prompt.ShowSave();
     EXPECT_EQ(prompt.FileName, PathOf("list.htm"));
     ASSERT_EQ(questions.size(), 2);
+    InPrompt([&](QFileDialog& dialog) {
+        QTest::keyClick(dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo")), Qt::Key_End);
+        Answer(QMessageBox::Yes);
+        TypeAndChoose(dialog, "other", QDialogButtonBox::Save);
+    });
+    prompt.ShowSave();
+    ASSERT_EQ(questions.size(), 3);
+    EXPECT_TRUE(questions.at(2).contains(QStringLiteral("other.txt")));
+    questions.removeLast();
+    prompt.FileName = PathOf("list.htm");
     EXPECT_TRUE(questions.at(0).contains(QStringLiteral("list.htm"))) << questions.at(0).toStdString();
 
     prompt.Flags = 0;
@@ -179,10 +189,10 @@ TEST_F(QtCommonDialogTest, CancelLeavesTheNameAndEveryPromptStartsWhereTheLastEn
     InPrompt([](QFileDialog& dialog) { TypeAndChoose(dialog, "below/x", QDialogButtonBox::Save); });
     prompt.ShowSave();
     EXPECT_EQ(prompt.FileName, PathOf("below/x.htm"));
+    expectStart(other, home.filePath("below"), "");
     expectStart(prompt, home.filePath("below"), "x.htm"); // the path of before
     prompt.FileName = "settings";
     expectStart(prompt, home.filePath("below"), "settings");
-    expectStart(other, home.filePath("below"), "");
 
     InPrompt([&](QFileDialog& dialog) {
         dialog.setDirectory(home.path());

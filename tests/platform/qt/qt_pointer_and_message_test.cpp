@@ -7,9 +7,11 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -28,6 +30,8 @@ class Window : public QPushButton {
   protected:
     void nextCheckState() override { ++handled; }
     void closeEvent(QCloseEvent* /*event*/) override { ++handled; }
+    void wheelEvent(QWheelEvent* /*event*/) override { ++handled; }
+    void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { ++handled; }
 };
 
 class QtPointerAndMessage : public testing::Test {
@@ -44,11 +48,15 @@ class QtPointerAndMessage : public testing::Test {
     /// A click, a pressed blank and a close, which wait until the next look at the events.
     void PostInput() {
         const QPointF middle = window.rect().center();
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease})
             QCoreApplication::postEvent(&window,
                                         new QMouseEvent(type, middle, window.mapToGlobal(middle),
                                                         Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
         PostBlank(window);
+        QCoreApplication::postEvent(&window,
+                                    new QWheelEvent(middle, window.mapToGlobal(middle), {}, {0, 120},
+                                                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false));
         QCoreApplication::postEvent(&window, new QCloseEvent);
     }
     [[nodiscard]] int Handled() const {
@@ -91,7 +99,7 @@ TEST_F(QtPointerAndMessage, PointerIsSetOnceAndDropsTheInputOfTheBusyTime) {
     }
     PostInput();
     pointer.ShowNormal();
-    EXPECT_EQ(Handled(), 3);
+    EXPECT_EQ(Handled(), 5);
 }
 
 TEST_F(QtPointerAndMessage, DropsInputBeforeAMessageOfTheBusyTime) {
@@ -145,6 +153,10 @@ TEST_F(QtPointerAndMessage, KeepsLongTextsOnTheScreen) {
         InBox([&](QMessageBox& box) {
             EXPECT_EQ(box.size().boundedTo(box.screen()->availableSize()), box.size());
             EXPECT_TRUE(box.text().isValidUtf16());
+            const QString whole = QString::fromStdString(text).trimmed();
+            EXPECT_TRUE(box.text().startsWith(whole.at(0)) && box.text().trimmed().endsWith(whole.right(3)));
+            static const QRegularExpression unbroken(QStringLiteral("[^\\s\u200B]{90}"));
+            EXPECT_FALSE(unbroken.match(box.text()).hasMatch());
         });
         messages.Show(text);
     }
