@@ -17,7 +17,9 @@ constexpr int FontPixels = 11;
 void PaintWhatWasCovered() {
     constexpr int patience = 20; // milliseconds until the window system has asked for it
     QEventLoop painting;
-    QTimer::singleShot(patience, &painting, &QEventLoop::quit);
+    QTimer end;
+    QObject::connect(&end, &QTimer::timeout, &painting, &QEventLoop::quit);
+    end.start(patience);
     painting.exec(QEventLoop::ExcludeUserInputEvents);
 }
 

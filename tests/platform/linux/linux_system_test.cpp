@@ -80,14 +80,14 @@ TEST(LinuxClock, HasFractions) {
 
 TEST(LinuxEntropy, FillsToTheLastByte) {
     // A signal makes the kernel give less than was asked for.
-    std::signal(SIGALRM, [](int) {});
+    ASSERT_NE(std::signal(SIGALRM, [](int) {}), SIG_ERR);
     const itimerval often{{0, 1000}, {0, 1000}};
     ::setitimer(ITIMER_REAL, &often, nullptr);
     std::vector<std::byte> bytes(40'000'000);
     LinuxEntropy().Fill(bytes);
     const itimerval never{};
     ::setitimer(ITIMER_REAL, &never, nullptr);
-    std::signal(SIGALRM, SIG_DFL);
+    ASSERT_NE(std::signal(SIGALRM, SIG_DFL), SIG_ERR);
     const auto tail = std::span(bytes).last(32);
     EXPECT_TRUE(std::any_of(tail.begin(), tail.end(), [](std::byte b) { return b != std::byte{0}; }));
 }
