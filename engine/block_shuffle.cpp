@@ -36,7 +36,7 @@ void ShuffleBlock(UniformSource& random, std::span<std::uint8_t> groups, const V
     auto valuesLeft = 2 * static_cast<std::size_t>(CountExchanges(groups.size()));
     while (valuesLeft > 0) {
         const auto next = std::span(positions).first(std::min(valuesLeft, std::size(positions)));
-        // Drawn from 0 where the position of the draw counts from 1: the lower end is added and no more.
+        // Positions count from 0 here. Lo is only added to the draw, so Lo = 0 gives position - 1 of Lo = 1.
         DrawRandomInts(random, 0, static_cast<std::int16_t>(groups.size() - 1), next, kernels);
         ExchangePositions(groups, next);
         valuesLeft -= next.size();

@@ -1,5 +1,5 @@
-// The block function of ChaCha, the stream cipher of D. J. Bernstein: sixteen words in, sixteen words out,
-// and no way back without the key.
+// The block function of ChaCha, the stream cipher of D. J. Bernstein (RFC 8439): sixteen words in, sixteen
+// words out. Without the key the input cannot be found from the output.
 #pragma once
 
 #include "engine/compiler.h"
@@ -11,8 +11,8 @@
 
 namespace orvane {
 
-/// What a block is made of: four constants, eight words of the key, and four words that set the block apart
-/// from all others of that key.
+/// The input of a block: four constants, eight words of the key, and four words that are different for every
+/// block of that key.
 using ChaChaWords = std::array<std::uint32_t, 16>;
 
 inline constexpr std::array<std::uint32_t, 4> ChaChaConstants{0x61707865, 0x3320646e, 0x79622d32, 0x6b206574};

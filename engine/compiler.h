@@ -1,6 +1,5 @@
-// What the compiler has to be told, in one place: what must be inlined, and for which machines a function is
-// compiled beside the one that every machine runs. A compiler that knows none of this builds the plain
-// version.
+// Compiler directives: which functions must be inlined, and for which processors a function is compiled in
+// addition to the portable version. A compiler without these directives builds the portable version alone.
 #pragma once
 
 #if defined(__GNUC__)

@@ -121,7 +121,7 @@ class DecimalText {
             exponent_ += text_[next_++];
     }
 
-    /// Whether a number that no float can hold is too large rather than too small.
+    /// For a number outside the range of a float: whether it is too large, not too small.
     [[nodiscard]] bool IsLarge() const {
         const std::size_t lead = mantissa_.find_first_not_of("0.");
         if (lead == std::string::npos)
@@ -196,7 +196,7 @@ bool IsAboveSampleSizes(std::string_view text) {
 std::string SevenDigits(float value) {
     if (value == 0)
         return "0";
-    // d.dddddde+xx: the digits that count, and the place of the point among them.
+    // d.dddddde+xx: the significant digits, and where the decimal point belongs.
     std::array<char, 32> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
                                    std::chars_format::scientific, 6)

@@ -16,7 +16,7 @@ std::int16_t DrawRandomInt(UniformSource& source, std::int16_t Lo, std::int16_t 
 
 void DrawRandomInts(UniformSource& source, std::int16_t Lo, std::int16_t Hi, std::span<std::int16_t> draws,
                     const VectorKernels& kernels) {
-    // Some batches of the source, and few enough values to stay in the machine's innermost cache.
+    // A few batches of the source, which together fit into the first-level cache.
     alignas(CacheLine) float values[4 * BatchValues];
     const std::int16_t W = Subtract16(Hi, Lo);
     while (!draws.empty()) {

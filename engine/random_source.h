@@ -1,35 +1,35 @@
 // The source of every random decision of the program.
 //
-// What goes in. The key: 256 bits from the operating system's entropy, fetched at the first use. Without them
-// there is no weaker start: that use is a failure, and the next one asks again. After that only what
-// UniformReseed is given, which is the time of day. The time alone would be a poor secret; here it only adds
-// to one.
+// Input. The key has 256 bits and comes from the operating system's entropy. It is fetched when the first
+// value is needed. If the operating system has no entropy, that call fails, and the next call asks again;
+// there is no weaker replacement. After that the only input is the value that UniformReseed receives, the
+// time of day. It is added to the key and never replaces it.
 //
-// What comes out. ChaCha with 8 rounds, keyed with the key, run over a counter: its words, 24 bits at a time,
-// are the values, in an order that depends on nothing but the key, the reseeds and the number of values
-// handed out. Whether they were asked for one by one or thousands at once makes no difference, nor does the
-// machine.
+// Output. ChaCha with 8 rounds runs over a counter under this key. Its output words give the values, 24 bits
+// each. Their order depends only on the key, on the reseeds and on how many values were taken. It does not
+// depend on the machine, nor on whether values are taken one by one or many at once.
 //
-// What an observer of a list can learn. The list, and nothing behind it. Groups, codes and block sizes tell
-// some bits of values that are spent. To find the next value, or another one between them, from any number of
-// these is to break the cipher: nothing better is known against 8 rounds than trying keys, and there are
-// 2^256 of them. No list tells anything about another one, and the time at which a list was made, even if it
-// is printed on the page, tells nothing about its content.
+// What somebody who sees a list can learn. Groups, codes and block sizes show some bits of values that were
+// used. Computing any other value from them means breaking the cipher: for 8 rounds no attack is known that
+// is faster than trying all 2^256 keys. A list tells nothing about any other list. The time at which a list
+// was made, even if it is printed on the list, tells nothing about its content.
 //
-// What holds after a reseed. The new key is a block of the cipher under the old key, with the reseed's value
-// in place of the counter and a mark that no block of values bears.
-// - Back: the old key is overwritten and the step has no inverse, so whoever reads the program's memory now
-//   cannot tell what was drawn before. Values prepared and not handed out are dropped and overwritten as
-//   well. This is said of the object itself; of copies that lie in the dead part of the stack until the next
-//   calls overwrite it, or that a debugger, a crash report or the swap file took, nothing can be promised.
-// - On: whatever value is given, even one that an enemy chose, the new key is as hard to guess as the old
-// one.
-//   (To the letter, a one-way step can merge two keys into one. A thousand million reseeds in a row would
-//   still leave more than 220 of the 256 bits.)
-// - Between reseeds the key stays, so the memory read then tells the values drawn since the last reseed.
+// Reseed. The new key is one block of the cipher under the old key. The input of that block holds the
+// reseed's value in place of the counter, and a mark that the input of values never holds.
+// - Earlier values: the old key is overwritten and cannot be computed from the new one. Who reads the
+// program's
+//   memory now cannot find the values drawn before. Values that were prepared but not used are overwritten
+//   too. This is true of this object. Copies on the stack, in a debugger, a crash report or the swap file are
+//   not under its control.
+// - Later values: the new key is as hard to guess as the old one, whatever value is given, even one that an
+//   attacker has chosen. (Strictly, two old keys can give the same new key. After a thousand million reseeds
+//   more than 220 of the 256 bits are still left.)
+// - Between two reseeds the key stays the same. Who reads the memory then can find the values since the last
+//   reseed.
 //
-// What is not promised. The values are multiples of 2^-24. A draw from a range of some thousand numbers is
-// therefore even to about one part in a thousand, which is the arithmetic of the draw, not of this source.
+// Limit. The values are multiples of 2^-24. The chances of a draw from a range of several thousand numbers
+// are therefore equal only to about one part in a thousand. This follows from the draw's arithmetic, not from
+// the source.
 #pragma once
 
 #include "engine/vector_kernels.h"
@@ -44,14 +44,14 @@ namespace orvane {
 
 class RandomSource : public UniformSource {
   public:
-    /// Takes nothing from `entropy` yet. The kernels change the speed and nothing else.
+    /// Asks `entropy` for nothing yet. The kernels change only the speed.
     explicit RandomSource(Entropy& entropy, const VectorKernels& kernels = BestKernels());
     RandomSource(const RandomSource&) = delete;
     RandomSource& operator=(const RandomSource&) = delete;
 
     float UniformNext() override;
     void UniformFill(std::span<float> values) override;
-    /// Costs one block of the cipher, which also gives the next ReseedValues values.
+    /// Computes one block of the cipher, which also gives the next ReseedValues values.
     void UniformReseed(float value) override;
 
     /// As many as the longest subject code has characters.

@@ -24,8 +24,8 @@ std::vector<std::int16_t> FlagsOf(std::span<const std::int16_t> IntArr) {
     return flags;
 }
 
-/// The statistic is 0 divided by 0 for one position, for two positions on either side of the mean, and for
-/// positions that are all on one side.
+/// The statistic is 0 divided by 0 for a block of one position, for a block of two positions, one on each
+/// side of the mean, and for a block whose positions are all on the same side.
 bool HasStatistic(const RunsCounts& counts) {
     return counts.n0 > 0 && counts.n1 > 0 && counts.n0 + counts.n1 > 2;
 }
@@ -51,7 +51,7 @@ RunsTestResult GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& m
         if (failure.Number == failure_number::Arithmetic)
             messages.Show("Insufficient memory to perform statistics");
     } catch (const std::exception&) {
-        // The result tells that the test failed; a real lack of memory leaves nothing to say it with.
+        // No message for other failures, such as no memory: the result tells that the test failed.
     }
     return {0, false};
 }

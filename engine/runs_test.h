@@ -1,6 +1,7 @@
 // The Wald-Wolfowitz runs test above and below the mean, in its normal approximation, on the group numbers of
-// a block. Its "P value" is the density of the standard normal distribution at the statistic, not a tail
-// probability: at most 0.398942280401433, and falling as the number of runs leaves its expectation.
+// a block. Its "P value" is not a tail probability. It is the density of the standard normal distribution at
+// the test statistic: at most 0.398942280401433, and smaller the more the number of runs differs from its
+// expectation.
 #pragma once
 
 #include "platform/message_box.h"
@@ -40,8 +41,8 @@ float RunsStatistic(const RunsCounts& counts);
 /// The density of the standard normal distribution at z.
 float RunsPValue(float z);
 
-/// Whether any arrangement of a block with these group numbers, in whatever order, has a P value above
-/// `sigLevel`. Exact: it tries each number of runs that such a block can have.
+/// Whether a block with these group numbers has a P value above `sigLevel` in at least one order. Exact:
+/// tries every number of runs that such a block can have.
 bool CanPassRunsTest(std::span<const std::int16_t> IntArr, float sigLevel);
 
 } // namespace orvane

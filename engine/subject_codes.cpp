@@ -13,8 +13,8 @@ namespace {
 constexpr std::int16_t LettersInAlphabet = 26;
 constexpr std::int16_t MixedCharacters = 36;
 
-/// A code that is taken is drawn again. The rarest code that a short length leaves free comes up more often
-/// than once in 200,000 draws, so this many in vain mean that the source hands out no random values.
+/// A code that is already used is drawn again. Even when a single free code is left, it is drawn more often
+/// than once in 200,000 draws. So many draws without a free code mean that the source is not random.
 constexpr int MostDrawsForOneCode = 5'000'000;
 
 const AlphaNumTable& AlphaNumChar() {
@@ -53,7 +53,7 @@ std::string SequentialCode(std::int16_t position, const ListSettings& settings) 
     }
 }
 
-/// Draws until a code comes that is not in `taken`, and adds it there.
+/// Draws codes until one is not in `taken`, and adds it there.
 std::string NewRandomCode(const ListSettings& settings, std::unordered_set<std::string>& taken,
                           UniformSource& random, TimeOfDay& clock) {
     for (int draw = 0; draw < MostDrawsForOneCode; ++draw) {

@@ -27,11 +27,12 @@ std::int32_t CodesAvailable(std::int32_t alphaNum, std::int32_t seqRandom, std::
 /// `S` with "0" added on the left up to `L` characters; a longer S is an InvalidArgument failure.
 std::string ZeroPad(const std::string& S, std::int16_t L);
 
-/// `n` in base 26 with the digits "A" to "Z", "A" on the left up to `length` characters. n is 0 or above; a
-/// number that needs more digits is an InvalidArgument failure.
+/// `n` in base 26 with the digits "A" to "Z", filled up on the left with "A" to `length` characters. A number
+/// that needs more digits is an InvalidArgument failure.
+/// Requires: n at least 0.
 std::string ConvertToABC(std::int16_t n, std::int16_t length);
 
-/// `n` in base 36 with the digits of AlphaNumChar, "0" on the left; otherwise as ConvertToABC.
+/// The same in base 36 with the digits of AlphaNumChar, filled up with "0".
 std::string ConvertToABC123(std::int16_t n, std::int16_t length);
 
 /// Reseeds the source with the time and draws `Length` characters of the alphabet `AlphaNum`.

@@ -8,7 +8,7 @@ namespace orvane {
 
 namespace {
 
-/// Whether a machine multiplies and adds with a single rounding.
+/// Whether a machine rounds once or twice when it multiplies and adds.
 enum class Rounding { Twice, Once };
 
 ORVANE_INLINE void UniformBatch(const ChaChaWords& first, std::span<float, BatchValues> values) {
@@ -33,10 +33,10 @@ ORVANE_INLINE void UniformBatch(const ChaChaWords& first, std::span<float, Batch
     }
 }
 
-// Both ways add a number so large that the sum has no room for a fraction: the one rounding to nearest, ties
-// to even, that the sum takes is the rounding wanted, and the whole number stands in the low bits of the sum.
-// A product of 24 and 15 bits is exact in a 64-bit float; where a machine rounds product and sum but once, 32
-// bits are enough.
+// Adding 1.5 * 2^23 to a 32-bit float, or 1.5 * 2^52 to a 64-bit float, makes the processor round to an
+// integer (to nearest, ties to even), which then stands in the low bits of the sum. The product must be exact
+// before it is rounded: it has 24 + 15 bits, which a 64-bit float holds. A fused multiply-add rounds only the
+// sum, so there 32-bit floats are enough.
 template <Rounding rounding>
 ORVANE_INLINE void ScaleToRange(std::span<const float> values, std::int16_t Lo, std::int16_t range,
                                 std::span<std::int16_t> draws) {

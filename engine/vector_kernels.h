@@ -1,5 +1,5 @@
-// The two loops that a shuffle spends its time in, as loops over whole batches. Each is written once and
-// compiled for several kinds of machine; every version gives the same values, bit for bit.
+// The two loops in which a shuffle spends its time. Each is written once and compiled for several kinds of
+// processor; every version gives the same values, bit for bit.
 #pragma once
 
 #include "engine/chacha.h"
@@ -11,24 +11,24 @@
 
 namespace orvane {
 
-/// Rounds of the generator: the fewest against which no attack is known that beats trying keys.
+/// Rounds of the cipher. No attack on 8 rounds is known that is faster than trying all keys.
 inline constexpr int SourceRounds = 8;
 
-/// The word of a block's input that counts the blocks, its low half.
+/// The word of a block's input that holds the low half of the block counter.
 inline constexpr std::size_t ChaChaCounterAt = 12;
 
-/// Blocks that are made side by side: two of the widest vectors, so that there is always one to work on while
-/// the other's result is under way.
+/// Blocks that are made side by side: as many as fill two of the widest vectors. While the processor waits
+/// for the result of one vector, it works on the other.
 inline constexpr std::size_t BatchBlocks = 32;
-/// Values of a block: three words hold the bits of four values, the sixteenth word those of one.
+/// Values of a block: three words give four values, the sixteenth word gives one.
 inline constexpr std::size_t BlockValues = 21;
 inline constexpr std::size_t BatchValues = BatchBlocks * BlockValues;
 
-/// Arrays that the loops run over start at a multiple of this many bytes: a vector that lies across two lines
-/// of the cache costs double.
+/// The arrays of these loops start at a multiple of this many bytes: loading a vector that crosses a cache
+/// line takes twice as long.
 inline constexpr std::size_t CacheLine = 64;
 
-/// The value whose 24 bits are the upper ones of `word`.
+/// The value that is made of the upper 24 bits of `word`.
 ORVANE_INLINE float UniformValue(std::uint32_t word) {
     return static_cast<float>(static_cast<std::int32_t>(word >> 8U)) * 0x1p-24F;
 }
@@ -43,20 +43,21 @@ ORVANE_INLINE std::array<float, 4> UniformValues(std::uint32_t a, std::uint32_t 
 struct VectorKernels {
     const char* Name;
 
-    /// The values of BatchBlocks blocks, made from `first` and from the inputs that count on from it; the
-    /// counter of `first` is a multiple of BatchBlocks. The first values of all blocks come first.
+    /// The values of BatchBlocks blocks: of the input `first` and of the following counter values. First the
+    /// first value of every block, then the second value of every block, and so on.
+    /// Requires: the counter of `first` is a multiple of BatchBlocks.
     void (*UniformBatch)(const ChaChaWords& first, std::span<float, BatchValues> values);
 
-    /// draws[i] = Lo + values[i] * range, rounded to nearest, ties to even, on the exact product. `range` is
-    /// from 0 to 32767, a value from 0 to below 1, and every result fits 16 bits.
+    /// draws[i] = Lo + values[i] * range, the exact product rounded to nearest, ties to even.
+    /// Requires: range from 0 to 32767; every value at least 0 and below 1; every result fits 16 bits.
     void (*ScaleToRange)(std::span<const float> values, std::int16_t Lo, std::int16_t range,
                          std::span<std::int16_t> draws);
 };
 
-/// The versions that this machine can run: first the one that every machine can, last the fastest.
+/// The versions that this machine can run, the slowest first. The first one runs on every machine.
 std::span<const VectorKernels> RunnableKernels();
 
-/// The fastest of them, found out once.
+/// The fastest version that this machine can run. It is determined once.
 const VectorKernels& BestKernels();
 
 } // namespace orvane
