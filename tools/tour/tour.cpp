@@ -4,10 +4,9 @@
 //
 // leaves the lists and a picture of every window in OUTPUT_FOLDER, names each on its standard output, and
 // ends with 0 if all it saw was right.
-#include "files.h"
+#include "platform/application.h"
 #include "user.h"
 #include "written_lists.h"
-#include "x_desktop.h"
 
 #include <algorithm>
 #include <exception>
@@ -15,7 +14,7 @@
 #include <iostream>
 #include <string>
 
-namespace orvane::tour {
+namespace orvane::driving {
 
 namespace fs = std::filesystem;
 
@@ -24,6 +23,12 @@ namespace {
 void Demand(bool right, const std::string& what) {
     if (!right)
         throw Fault("wrong: " + what);
+}
+
+std::string Version() {
+    const VersionRecord& version = ApplicationVersion;
+    return "Version " + std::to_string(version.Major) + "." + std::to_string(version.Minor) + "." +
+           std::to_string(version.Revision);
 }
 
 /// The folder of the pictures and lists, with a list of its content as the mark by which the next tour knows
@@ -52,15 +57,15 @@ class Album {
     fs::path index_;
 };
 
-const Settings Trial{.Groups = {"Drug A", "Drug B", "Placebo"},
-                     .SampleSize = "60",
-                     .CodeAlphaNum = 2,
-                     .CodeSeqRandom = 1,
-                     .CodeLength = 4,
-                     .BlockOption = 2,
-                     .EqBlockSize = "",
-                     .UnEqBlockSize = "6,12",
-                     .OutputOption = 2};
+const SettingsText Trial{.Groups = {"Drug A", "Drug B", "Placebo"},
+                         .SampleSize = "60",
+                         .CodeAlphaNum = 2,
+                         .CodeSeqRandom = 1,
+                         .CodeLength = 4,
+                         .BlockOption = 2,
+                         .EqBlockSize = "",
+                         .UnEqBlockSize = "6,12",
+                         .OutputOption = 2};
 
 const ListDemands Demands{.Groups = Trial.Groups,
                           .Sizes = {6, 12},
@@ -70,7 +75,7 @@ const ListDemands Demands{.Groups = Trial.Groups,
 
 class Tour {
   public:
-    Tour(XDesktop& desktop, const fs::path& programFolder, Album& album)
+    Tour(Desktop& desktop, const fs::path& programFolder, Album& album)
         : desktop_(desktop), user_(desktop, programFolder), album_(album) {}
 
     void Walk() {
@@ -112,19 +117,12 @@ class Tour {
         user_.Confirm(message);
     }
 
-    void MeetViewer(const std::string& viewer, const fs::path& file) {
-        desktop_.AwaitThat("the " + viewer + " with " + file.string(), [&] {
-            const auto viewed = desktop_.Viewed();
-            return !viewed.empty() && viewed.back() == Words{viewer, file.string()};
-        });
-    }
-
     void Start() {
         user_.StartProgram();
         const Window main = user_.AwaitMain();
         user_.Find(MainTitle, "label", "2");
-        user_.Find(MainTitle, "cell", "Group 1");
-        user_.Find(MainTitle, "cell", "Group 2");
+        user_.Find(MainTitle, "table cell", "Group 1");
+        user_.Find(MainTitle, "table cell", "Group 2");
         Demand(user_.Find(MainTitle, "check box", "Save settings on exit").Checked, "the box is not checked");
         Take(main, "main window", "main-window");
     }
@@ -142,7 +140,7 @@ class Tour {
     }
 
     void Refusal() {
-        user_.FocusOn(MainTitle, "Generate Random List");
+        user_.TabTo(MainTitle, "Generate Random List");
         desktop_.Press({"Return"});
         Meet("please specify the sample size", "refusal without a sample size", "refusal");
     }
@@ -158,7 +156,7 @@ class Tour {
         for (const std::string& group : Trial.Groups) {
             user_.FocusOn(MainTitle, "Group Name");
             desktop_.Type(group);
-            user_.Find(MainTitle, "cell", group);
+            user_.Find(MainTitle, "table cell", group);
             user_.FocusOn(MainTitle, "Group Names");
             desktop_.Press({"Down"});
         }
@@ -167,8 +165,7 @@ class Tour {
 
     /// Starts a generation and goes through the four tabs of the options.
     void SetOptions() {
-        desktop_.Press({"Return"});
-        const Window options = desktop_.Await(OptionsTitle);
+        const Window options = user_.OpenOptions();
         user_.FocusOn(OptionsTitle, "Only one block");
         desktop_.Press({"Down", "shift+Tab", "Down"});
         desktop_.Type(Trial.UnEqBlockSize);
@@ -198,9 +195,7 @@ class Tour {
 
     /// Starts a generation with the options as they are.
     void Generate() {
-        user_.AwaitMain();
-        desktop_.Press({"Return"});
-        const Window options = desktop_.Await(OptionsTitle);
+        const Window options = user_.OpenOptions();
         Demand(user_.Find(OptionsTitle, "radio button", "Random sizes of").Checked,
                "the block option is lost");
         desktop_.Press({"Return"});
@@ -216,7 +211,7 @@ class Tour {
         MeetRunsTest();
         album_.Add("list as a web page", "list.htm");
         Judge(BlocksOfPage(ReadFile(page)), Demands);
-        MeetViewer("browser", page);
+        user_.AwaitViewer("browser", page);
         TakePage(page, "the web page in a browser", "list-page.png");
     }
 
@@ -235,7 +230,7 @@ class Tour {
         album_.Add("list as a text file", "list.txt");
         Judge(BlocksOfText(ReadFile(text)), Demands);
         Demand(before == ReadFile(album_.Path("list.htm")), "the list that was kept has changed");
-        MeetViewer("reader", text);
+        user_.AwaitViewer("reader", text);
     }
 
     void OutputWindow() {
@@ -245,7 +240,7 @@ class Tour {
         Take(output, "output window", "output-window");
         user_.FocusOn(OutputTitle, "Save");
         desktop_.Press({"space"});
-        const Window prompt = desktop_.Await("Save to File As...");
+        const Window prompt = desktop_.Await(SaveOutputTitle);
         Take(prompt, "save prompt of the output window", "output-save-prompt");
         const fs::path copy = album_.Path("window.txt");
         user_.Answer(prompt, copy.string());
@@ -289,7 +284,7 @@ class Tour {
 
     void SavedList() {
         user_.Choose({"View", "Random File..."});
-        const Window prompt = desktop_.Await("Select the random file");
+        const Window prompt = desktop_.Await(RandomFileTitle);
         Take(prompt, "prompt of Random File", "random-file-prompt");
         user_.Answer(prompt, album_.Path("list.txt").string());
         const Window output = desktop_.Await(OutputTitle);
@@ -304,7 +299,7 @@ class Tour {
         user_.Choose({"Help", "About..."});
         const Window about = desktop_.Await("About Orvane Software");
         user_.Find(about.Title, "label", "Orvane Software");
-        user_.Find(about.Title, "label", "Version 1.0.0");
+        user_.Find(about.Title, "label", Version());
         Take(about, "About box", "about");
         desktop_.Press({"Escape"});
         desktop_.AwaitGone(about);
@@ -313,16 +308,16 @@ class Tour {
     void HelpPage() {
         user_.Choose({"Help", "Content"});
         const fs::path page = user_.Folder() / "randomization.htm";
-        MeetViewer("browser", page);
+        user_.AwaitViewer("browser", page);
         TakePage(page, "help page", "help-page.png");
     }
 
     /// A picture of a web page in a browser.
     void TakePage(const fs::path& page, const std::string& what, const std::string& file) {
         const fs::path picture = desktop_.Folder() / file;
-        desktop_.Do({"chromium", "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars",
-                     "--window-size=1000,1400", "--screenshot=" + picture.string(),
-                     "file://" + page.string()});
+        Desktop::Run({"chromium", "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars",
+                      "--window-size=1000,1400", "--screenshot=" + picture.string(),
+                      "file://" + page.string()});
         fs::copy_file(picture, album_.Add(what, file));
     }
 
@@ -331,14 +326,14 @@ class Tour {
         Demand(ReadFile(user_.SavedSettings()) == BytesOf(Trial), "the settings kept at the end");
     }
 
-    XDesktop& desktop_;
+    Desktop& desktop_;
     User user_;
     Album& album_;
 };
 
 int Run(const fs::path& programFolder, const fs::path& folder) {
     Album album(folder);
-    XDesktop desktop;
+    Desktop desktop;
     try {
         Tour(desktop, programFolder, album).Walk();
     } catch (const std::exception& fault) {
@@ -352,7 +347,7 @@ int Run(const fs::path& programFolder, const fs::path& folder) {
 
 } // namespace
 
-} // namespace orvane::tour
+} // namespace orvane::driving
 
 int main(int count, char** arguments) {
     const std::vector<std::string> words(arguments, arguments + count);
@@ -361,7 +356,7 @@ int main(int count, char** arguments) {
         return 2;
     }
     try {
-        return orvane::tour::Run(words[1], words[2]);
+        return orvane::driving::Run(words[1], words[2]);
     } catch (const std::exception& fault) {
         std::cerr << "The tour ends early. " << fault.what() << "\n";
         return 1;

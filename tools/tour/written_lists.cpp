@@ -1,12 +1,12 @@
 #include "written_lists.h"
 
-#include "child.h"
+#include "desktop.h"
 
 #include <algorithm>
 #include <map>
 #include <set>
 
-namespace orvane::tour {
+namespace orvane::driving {
 
 namespace {
 
@@ -110,4 +110,4 @@ void Judge(const std::vector<Block>& blocks, const ListDemands& demands) {
         throw Fault("a list of only " + std::to_string(subjects) + " subjects");
 }
 
-} // namespace orvane::tour
+} // namespace orvane::driving

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace orvane::tour {
+namespace orvane::driving {
 
 struct Subject {
     std::string Code;
@@ -32,4 +32,4 @@ struct ListDemands {
 /// formed and unique, and the last block was needed to reach the least number of subjects.
 void Judge(const std::vector<Block>& blocks, const ListDemands& demands);
 
-} // namespace orvane::tour
+} // namespace orvane::driving

@@ -1,0 +1,118 @@
+#include "screen_reader.h"
+
+#include <utility>
+
+namespace orvane::driving {
+
+namespace {
+
+using Node = std::shared_ptr<AtspiAccessible>;
+
+constexpr int AnswerTime = 3000; // milliseconds
+constexpr int DeepestControl = 30;
+constexpr int MostChildren = 200;
+
+/// Takes over a reference; nullptr stays nullptr.
+template <class T>
+std::shared_ptr<T> Own(T* object) {
+    return {object, [](T* old) {
+                if (old != nullptr)
+                    g_object_unref(old);
+            }};
+}
+
+std::string Own(char* text) {
+    std::string copy = text == nullptr ? "" : text;
+    g_free(text);
+    return copy;
+}
+
+/// The children of a node, none if its program does not answer.
+std::vector<Node> ChildrenOf(const Node& node) {
+    std::vector<Node> children;
+    const int count = atspi_accessible_get_child_count(node.get(), nullptr);
+    for (int index = 0; index < count && index < MostChildren; ++index)
+        if (Node child = Own(atspi_accessible_get_child_at_index(node.get(), index, nullptr)))
+            children.push_back(std::move(child));
+    return children;
+}
+
+std::vector<Node> AllWindows() {
+    std::vector<Node> windows;
+    // A program can be there twice, once for each toolkit in it.
+    for (const Node& program : ChildrenOf(Own(atspi_get_desktop(0))))
+        for (Node& window : ChildrenOf(program))
+            windows.push_back(std::move(window));
+    return windows;
+}
+
+std::string NameOf(const Node& node) {
+    return Own(atspi_accessible_get_name(node.get(), nullptr));
+}
+
+bool Walk(const Node& node, int depth, const std::function<bool(const Control&)>& look) {
+    const auto state = Own(atspi_accessible_get_state_set(node.get()));
+    const auto is = [&](AtspiStateType type) { return atspi_state_set_contains(state.get(), type) != FALSE; };
+    if (!state || !is(ATSPI_STATE_SHOWING) || depth > DeepestControl)
+        return false;
+    Control control{.Role = Own(atspi_accessible_get_role_name(node.get(), nullptr)),
+                    .Name = NameOf(node),
+                    .Text = "",
+                    .Focused = is(ATSPI_STATE_FOCUSED),
+                    .Checked = is(ATSPI_STATE_CHECKED),
+                    .Enabled = is(ATSPI_STATE_ENABLED),
+                    .Node = node};
+    if (control.Role == "text")
+        if (const auto text = Own(atspi_accessible_get_text_iface(node.get())))
+            control.Text = Own(atspi_text_get_text(text.get(), 0, -1, nullptr));
+    if (look(control))
+        return true;
+    for (const Node& child : ChildrenOf(node))
+        if (Walk(child, depth + 1, look))
+            return true;
+    return false;
+}
+
+} // namespace
+
+ScreenReader::ScreenReader() {
+    atspi_init();
+    atspi_set_timeout(AnswerTime, AnswerTime);
+    // What the library remembers is out of date when a window has changed.
+    atspi_accessible_set_cache_mask(Own(atspi_get_desktop(0)).get(), ATSPI_CACHE_NONE);
+}
+
+std::vector<std::string> ScreenReader::Titles() const {
+    std::vector<std::string> titles;
+    for (const Node& window : AllWindows()) {
+        const auto state = Own(atspi_accessible_get_state_set(window.get()));
+        if (state && atspi_state_set_contains(state.get(), ATSPI_STATE_SHOWING) != FALSE)
+            titles.push_back(NameOf(window));
+    }
+    return titles;
+}
+
+bool ScreenReader::Any(const std::string& title, const std::function<bool(const Control&)>& look) const {
+    for (const Node& window : AllWindows())
+        if (NameOf(window) == title && Walk(window, 0, look))
+            return true;
+    return false;
+}
+
+Box ScreenReader::PlaceOf(const Control& control) {
+    const auto component = Own(atspi_accessible_get_component_iface(control.Node.get()));
+    AtspiRect* place =
+        component ? atspi_component_get_extents(component.get(), ATSPI_COORD_TYPE_SCREEN, nullptr) : nullptr;
+    if (place == nullptr)
+        return {};
+    const Box box{place->x, place->y, place->width, place->height};
+    g_free(place);
+    return box;
+}
+
+bool ScreenReader::Focus(const Control& control) {
+    const auto component = Own(atspi_accessible_get_component_iface(control.Node.get()));
+    return component && atspi_component_grab_focus(component.get(), nullptr) != FALSE;
+}
+
+} // namespace orvane::driving

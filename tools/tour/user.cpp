@@ -1,0 +1,195 @@
+#include "user.h"
+
+#include <algorithm>
+#include <thread>
+
+namespace orvane::driving {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int MostSteps = 40;
+constexpr std::chrono::milliseconds Glance{10};
+
+/// Whether the control is the one of this name that gets the keys. Cells and tabs keep a focus of their own
+/// within a control that has lost the keyboard's.
+bool HasKeys(const Control& control, const std::string& name) {
+    return control.Focused && control.Name == name && control.Role != "table cell" &&
+           control.Role != "page tab" && control.Role != "panel";
+}
+
+} // namespace
+
+User::User(Desktop& desktop, const fs::path& programFolder) : desktop_(desktop) {
+    fs::remove_all(Folder());
+    fs::copy(programFolder, Folder(), fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+    KeepSettings({});
+}
+
+int User::Exit() {
+    Choose({"File", "Exit"});
+    return desktop_.AwaitEnd();
+}
+
+int User::CloseFrame() {
+    AwaitMain();
+    desktop_.Press({"alt+F4"});
+    return desktop_.AwaitEnd();
+}
+
+Control User::Find(const std::string& title, const std::string& role, const std::string& name) {
+    Control found;
+    AwaitControl(title, "the " + role + " \"" + name + "\"", [&](const Control& control) {
+        if (control.Role != role || control.Name != name)
+            return false;
+        found = control;
+        return true;
+    });
+    return found;
+}
+
+void User::AwaitControl(const std::string& title, const std::string& what,
+                        const std::function<bool(const Control&)>& fits) {
+    desktop_.AwaitThat(what + " in \"" + title + "\"", [&] { return desktop_.Reader().Any(title, fits); });
+}
+
+void User::AwaitText(const std::string& title, const std::string& name, const std::string& text) {
+    AwaitControl(title, "\"" + text + "\" in the box \"" + name + "\"", [&](const Control& control) {
+        return control.Role == "text" && control.Name == name && control.Text == text;
+    });
+}
+
+void User::FocusOn(const std::string& title, const std::string& name) {
+    desktop_.Await(title);
+    bool takes = true;
+    AwaitControl(title, "the control \"" + name + "\"", [&](const Control& control) {
+        if (control.Name != name || control.Role == "label")
+            return false;
+        takes = ScreenReader::Focus(control);
+        return true;
+    });
+    if (!takes)
+        return TabTo(title, name);
+    AwaitControl(title, "the focus on \"" + name + "\"",
+                 [&](const Control& control) { return HasKeys(control, name); });
+}
+
+void User::TabTo(const std::string& title, const std::string& name) {
+    desktop_.Await(title);
+    const auto arrived = [&] {
+        return desktop_.Reader().Any(title, [&](const Control& control) { return HasKeys(control, name); });
+    };
+    for (int left = MostSteps; !arrived(); --left) {
+        if (left == 0)
+            throw Fault("no Tab reaches " + name);
+        desktop_.Press({"Tab"});
+    }
+}
+
+void User::Fill(const std::string& title, const std::string& name, const std::string& text) {
+    FocusOn(title, name);
+    desktop_.Press({"ctrl+a", "Delete"});
+    if (!text.empty())
+        desktop_.Type(text);
+    AwaitText(title, name, text);
+}
+
+void User::Click(const std::string& title, const std::string& role, const std::string& name) {
+    desktop_.Await(title);
+    desktop_.Click(ScreenReader::PlaceOf(Find(title, role, name)));
+}
+
+void User::OpenMenu(const Words& items) {
+    AwaitMain();
+    for (const std::string& item : items) {
+        const Box place = ScreenReader::PlaceOf(Find(MainTitle, "menu item", item));
+        if (&item == &items.back())
+            desktop_.Run({"xdotool", "mousemove", std::to_string(place.X + place.Width / 2),
+                          std::to_string(place.Y + place.Height / 2)});
+        else
+            desktop_.Click(place);
+    }
+}
+
+void User::LeaveMenu() {
+    desktop_.AwaitThat("the end of the menu", [&] {
+        const bool open = desktop_.Reader().Any(MainTitle, [](const Control& control) {
+            return control.Role == "popup menu" || (control.Role == "menu bar" && control.Focused);
+        });
+        if (open)
+            desktop_.Press({"Escape"});
+        return !open;
+    });
+}
+
+void User::Choose(const Words& items) {
+    OpenMenu(items);
+    desktop_.Run({"xdotool", "click", "1"});
+}
+
+Window User::OpenOptions() {
+    AwaitMain();
+    desktop_.Press({"Return"});
+    return desktop_.Await(OptionsTitle);
+}
+
+void User::Generate() {
+    const Window options = OpenOptions();
+    desktop_.Press({"Return"});
+    desktop_.AwaitGone(options);
+}
+
+void User::Answer(const Window& prompt, const std::string& path) {
+    constexpr int mostTries = 3; // the first letters can be lost on the way to a box that opens for them
+    const auto holds = [&] {
+        return desktop_.Reader().Any(prompt.Title, [&](const Control& control) {
+            return control.Role == "text" && control.Text == path;
+        });
+    };
+    for (int left = mostTries; left > 0; --left) {
+        desktop_.Press({"ctrl+a"});
+        desktop_.Type(path);
+        for (Deadline deadline(std::chrono::seconds(3)); !deadline.Passed();) {
+            if (holds()) {
+                desktop_.Press({"Return"});
+                return;
+            }
+            std::this_thread::sleep_for(Glance);
+        }
+    }
+    throw Fault("the prompt \"" + prompt.Title + "\" does not take the name " + path);
+}
+
+Message User::AwaitMessage() {
+    Message message{desktop_.Await(MessageTitle), ""};
+    AwaitControl(MessageTitle, "a text", [&](const Control& control) {
+        message.Text = control.Name;
+        return control.Role == "label" && !control.Name.empty();
+    });
+    return message;
+}
+
+void User::Confirm(const Message& message) {
+    desktop_.Press({"Return"});
+    desktop_.AwaitGone(message.Box);
+}
+
+void User::AwaitViewer(const std::string& viewer, const fs::path& file) {
+    desktop_.AwaitThat("the " + viewer + " with " + file.string(), [&] {
+        const auto viewed = desktop_.Viewed();
+        return !viewed.empty() && viewed.back() == Words{viewer, file.string()};
+    });
+}
+
+void User::ExpectQuiet() {
+    AwaitMain();
+    for (int look = 0; look < 20; ++look) {
+        for (const std::string& title : desktop_.Titles())
+            if (title != MainTitle)
+                throw Fault("an unexpected window: " + title);
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+}
+
+} // namespace orvane::driving
