@@ -37,7 +37,8 @@ function(orvane_library folder)
   target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}")
   target_link_libraries(${name} PUBLIC ${arg_LINKS} orvane_sanitizers PRIVATE orvane_warnings)
   if("Qt6::Widgets" IN_LIST arg_LINKS)
-    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+    # Format 2 of the resources: later ones keep the time of each file.
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON AUTORCC_OPTIONS "--format-version;2")
     # Rules of their own: with AUTOUIC an edited window takes effect only at the second build.
     qt6_wrap_ui(headers ${windows})
     target_sources(${name} PRIVATE ${headers})
@@ -50,11 +51,15 @@ endfunction()
 function(orvane_program)
   set(app "${CMAKE_BINARY_DIR}/app")
   add_executable(orvane "${CMAKE_SOURCE_DIR}/forms/main.cpp")
-  set_target_properties(orvane PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${app}")
+  # Where an archive of the program keeps its libraries. As an RPATH, not a RUNPATH, the place counts for the libraries
+  # and plugins as well, which are packed as they are.
+  set_target_properties(orvane PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${app}" INSTALL_RPATH "$ORIGIN/lib"
+                                          BUILD_WITH_INSTALL_RPATH ON)
+  target_link_options(orvane PRIVATE -Wl,--disable-new-dtags)
   target_link_libraries(orvane PRIVATE forms platform_qt platform_linux orvane_warnings)
   add_custom_target(beside ALL
-    COMMAND ${CMAKE_COMMAND} -DSOURCE=${CMAKE_SOURCE_DIR}/assets -DAPP=${app}
-            -P ${CMAKE_SOURCE_DIR}/cmake/beside.cmake
+    COMMAND ${CMAKE_COMMAND} -DSOURCE=${CMAKE_SOURCE_DIR}/assets -DAPP=${app} -DFOLDER=${app}
+            -DVERSION=${PROJECT_VERSION} -P ${CMAKE_SOURCE_DIR}/cmake/beside.cmake
     COMMENT "Files beside the program")
   add_dependencies(orvane beside)
 endfunction()
@@ -64,4 +69,16 @@ function(orvane_check_arrows)
     COMMAND ${CMAKE_COMMAND} -DSOURCE=${CMAKE_SOURCE_DIR} -P ${CMAKE_SOURCE_DIR}/cmake/arrows.cmake
     COMMENT "Arrows between the folders")
   add_dependencies(orvane arrows)
+endfunction()
+
+# The version of project() is the one that docs/changes.md ends with.
+function(orvane_check_changes)
+  set(file "${CMAKE_SOURCE_DIR}/docs/changes.md")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")
+  file(STRINGS "${file}" headings REGEX "^## .*[0-9]+\\.[0-9]+\\.[0-9]+$")
+  list(GET headings -1 last)
+  string(REGEX MATCH "[0-9.]+$" version "${last}")
+  if(NOT version STREQUAL PROJECT_VERSION)
+    message(FATAL_ERROR "docs/changes.md ends with version \"${version}\", the project is ${PROJECT_VERSION}")
+  endif()
 endfunction()

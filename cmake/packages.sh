@@ -38,3 +38,6 @@ run_packages=(shared-mime-info fonts-dejavu-core qt6-gtk-platformtheme)
 wayland_packages=(qt6-wayland)
 test_packages=(libgtest-dev locales tidy)
 display_packages=(xvfb xauth openbox xdotool xclip imagemagick dbus-daemon at-spi2-core libatspi2.0-dev chromium)
+# To make the archive, with the plugins of Qt that go into it.
+package_packages=(libqt6svg6 qt6-gtk-platformtheme qt6-xdgdesktopportal-platformtheme qt6-wayland)
+check_packages=(bubblewrap)

@@ -8,12 +8,12 @@ namespace orvane {
 /// The caption of every plain message box and the title in the About box.
 inline constexpr const char* ApplicationTitle = "Orvane Software";
 
-/// The program's version record.
+/// The program's version record: the numbers of project() in CMakeLists.txt.
 struct VersionRecord {
     std::int16_t Major;
     std::int16_t Minor;
     std::int16_t Revision;
 };
-inline constexpr VersionRecord ApplicationVersion{1, 0, 0};
+inline constexpr VersionRecord ApplicationVersion{ORVANE_VERSION};
 
 } // namespace orvane

@@ -1,0 +1,40 @@
+# Puts the terms of each library and plugin in FOLDER into FOLDER/licenses: what the Debian package that it comes from
+# says, and the common licences that this names. packages.txt tells the version of each and of its source.
+
+cmake_minimum_required(VERSION 3.25)
+
+# ask(RESULT COMMAND...): the output of the command.
+function(ask result)
+  execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  set(${result} "${output}" PARENT_SCOPE)
+endfunction()
+
+set(licenses "${FOLDER}/licenses")
+file(GLOB_RECURSE files RELATIVE "${FOLDER}" "${FOLDER}/lib/*" "${FOLDER}/plugins/*")
+set(packages "")
+foreach(file IN LISTS files)
+  if(NOT IS_SYMLINK "${FOLDER}/${file}")
+    string(REGEX REPLACE "^lib/" "${LIBRARY_FOLDER}/" place "${file}")
+    ask(owner dpkg-query -S "*/${place}")
+    string(REGEX REPLACE ":.*" "" package "${owner}")
+    list(APPEND packages ${package})
+  endif()
+endforeach()
+list(REMOVE_DUPLICATES packages)
+list(SORT packages)
+
+set(list "Package, version, source package, its version\n")
+foreach(package IN LISTS packages)
+  file(REAL_PATH "/usr/share/doc/${package}/copyright" terms)
+  configure_file("${terms}" "${licenses}/${package}.txt" COPYONLY)
+  file(STRINGS "${terms}" lines REGEX "/usr/share/common-licenses/")
+  string(REGEX MATCHALL "/usr/share/common-licenses/[A-Za-z0-9.+-]*[A-Za-z0-9]" named "${lines}")
+  foreach(common IN LISTS named)
+    cmake_path(GET common FILENAME name)
+    file(REAL_PATH "${common}" text)
+    configure_file("${text}" "${licenses}/common-licenses/${name}.txt" COPYONLY)
+  endforeach()
+  ask(line dpkg-query -W -f "\${Package} \${Version} \${source:Package} \${source:Version}\\n" ${package})
+  string(APPEND list "${line}\n")
+endforeach()
+file(WRITE "${licenses}/packages.txt" "${list}")
