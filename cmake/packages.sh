@@ -41,3 +41,5 @@ display_packages=(xvfb xauth openbox xdotool xclip imagemagick dbus-daemon at-sp
 # To make the archive, with the plugins of Qt that go into it.
 package_packages=(libqt6svg6 qt6-gtk-platformtheme qt6-xdgdesktopportal-platformtheme qt6-wayland)
 check_packages=(bubblewrap)
+# To check the program and to write the record of it.
+validation_packages=(libboost-math-dev nlohmann-json3-dev git)

@@ -28,13 +28,16 @@ class Evidence {
     void Demand(bool right, const std::string& what);
 
     void Paragraph(const std::string& text);
-    void Table(const Row& head, const std::vector<Row>& rows);
+    void Table(const Row& head, const std::vector<Row>& rows,
+               const std::string& caption = "Figures of this check");
     /// `svg` is a whole svg element; `caption` stands below it.
     void Plot(const std::string& svg, const std::string& caption);
     /// A file in the folder of the record that is kept as evidence.
     void File(const std::string& name);
 
     [[nodiscard]] const std::vector<std::string>& Faults() const { return faults_; }
+    /// Whether anything was compared or demanded. A check that looked at nothing has not passed.
+    [[nodiscard]] bool HasJudged() const { return judged_; }
     /// The evidence as HTML, the comparisons as one table in front.
     [[nodiscard]] std::string Html() const;
 
@@ -47,6 +50,7 @@ class Evidence {
     };
     std::vector<Comparison> comparisons_;
     std::vector<std::string> faults_;
+    bool judged_ = false;
     std::string html_;
 };
 

@@ -1,0 +1,14 @@
+// The record for other programs to read.
+#pragma once
+
+#include "validation/page.h"
+#include "validation/record.h"
+
+#include <string>
+
+namespace orvane::validation {
+
+/// One JSON object; "conclusion" is "passed" or "failed", "checks" tells each check with its result.
+std::string RecordJson(const Record& record, const Run& run);
+
+} // namespace orvane::validation

@@ -1,0 +1,23 @@
+// The record as one page for A4.
+#pragma once
+
+#include "validation/identity.h"
+#include "validation/record.h"
+
+#include <string>
+
+namespace orvane::validation {
+
+struct Run {
+    Identity What;
+    bool Quick = false;
+    std::string Duration; ///< of all checks, in words
+};
+
+/// The whole record as one HTML page that needs no other file.
+std::string RecordPage(const Record& record, const Run& run);
+
+/// The style sheet of the page, in page_style.cpp. `footer` stands at the foot of every printed page.
+std::string PageStyle(const std::string& footer);
+
+} // namespace orvane::validation
