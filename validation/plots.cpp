@@ -90,8 +90,7 @@ class Drawing {
         const std::string size = Fixed(Width, 0) + ' ' + Fixed(height, 0);
         return "<svg xmlns=\"http://www.w3.org/2000/svg\" role=\"img\" viewBox=\"0 0 " + size +
                "\" width=\"640\" height=\"" + Fixed(height, 0) +
-               "\" style=\"max-width:100%;height:auto\" font-family=\"sans-serif\" font-size=\"11\" "
-               "fill=\"#000\">\n<title>" +
+               "\" style=\"max-width:100%;height:auto;font:11px sans-serif;fill:#000\">\n<title>" +
                Escaped(title) + "</title>\n" + body_ + "</svg>\n";
     }
 
@@ -125,7 +124,7 @@ double DrawBarLabels(Drawing& drawing, const std::vector<Bar>& bars) {
     for (const Bar& bar : bars)
         longest = std::max(longest, bar.Label.size());
     const double slot = (Right - Left) / static_cast<double>(bars.size());
-    const double labelWidth = static_cast<double>(longest) * CharacterWidth + 8;
+    const double labelWidth = static_cast<double>(longest) * CharacterWidth + 12;
     const bool slanted = labelWidth > slot && slot >= 16;
     const double room = slanted ? slot : labelWidth;
     const auto every = static_cast<std::size_t>(std::max(1.0, std::ceil(room / slot - 1e-9)));
