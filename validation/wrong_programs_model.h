@@ -1,0 +1,60 @@
+// A program written anew from the documented rules, in the plainest way, which can be made wrong on purpose
+// in one place.
+#pragma once
+
+#include "validation/statistics_program.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace orvane::validation {
+
+enum class Fault {
+    None,
+    RemainderValues, ///< the source gives remainders of a division, so that low values come up twice as often
+    CoarseValues,    ///< the source has 16 bits where it should have 24
+    DoubledValues,   ///< the source hands out every value twice
+    RemainderDraws,  ///< a draw is the remainder of a byte
+    UniformEnds,     ///< a draw gives its ends as often as the values between them
+    TruncatedDraws,  ///< a draw is cut off instead of rounded
+    FewExchanges,    ///< a block of N subjects gets N exchanges
+    UnevenDeal,      ///< each subject gets a group of its own draw
+    RepeatedList,    ///< the source starts from the same key for every block
+    FewKeys,         ///< the source starts from one of 256 keys for every block
+    ContinuedBlocks, ///< a block starts from the block before and gets few exchanges
+    IgnoredRunsTest, ///< a block is used whatever its Runs test says
+    RepeatedCode,    ///< the last code of a list is its first one again
+};
+
+/// With Fault::None it gives, draw for draw, what the delivered program gives from the same key.
+class ModelProgram : public DrawingProgram {
+  public:
+    ModelProgram(Entropy& entropy, TimeOfDay& clock, Fault fault);
+
+    void Values(std::span<float> values) override;
+    std::int16_t Draw(std::int16_t Lo, std::int16_t Hi) override;
+    Arrangement Block(int size, int groups, float level) override;
+    std::vector<std::int16_t> BlockSizes(const ListSettings& settings) override;
+    std::vector<std::string> Codes(std::int32_t alphabet, std::int16_t length, std::int16_t count) override;
+
+  private:
+    float Next();
+    void Reseed();
+    /// For the faults of keys: a new source.
+    void StartAnew();
+    Arrangement Dealt(int size, int groups);
+    void Exchange(Arrangement& block, int times);
+    std::string Code(std::int32_t alphabet, int length);
+
+    Entropy& entropy_;
+    TimeOfDay& clock_;
+    Fault fault_;
+    std::unique_ptr<RandomSource> source_;
+    std::unique_ptr<Entropy> knownEntropy_;
+    bool isDoubled_ = false;
+    float doubled_ = 0;
+    Arrangement before_;
+};
+
+} // namespace orvane::validation
