@@ -16,8 +16,8 @@ std::string FilesTable(const Identity& what) {
     for (const Row& file : what.Files)
         rows += "<tr><td>" + Escaped(file[0]) + "</td><td>" + Escaped(file[1]) + "</td><td class=\"hash\">" +
                 file[2] + "</td></tr>\n";
-    return "<table><caption>Delivered files</caption>\n<thead><tr>" + HeadCell("File") + HeadCell("Bytes") +
-           HeadCell("SHA-256") + "</tr></thead>\n<tbody>\n" + rows + "</tbody></table>\n";
+    return "<table class=\"short\"><caption>Delivered files</caption>\n<thead><tr>" + HeadCell("File") +
+           HeadCell("Bytes") + HeadCell("SHA-256") + "</tr></thead>\n<tbody>\n" + rows + "</tbody></table>\n";
 }
 
 std::string LibrariesTable(const Identity& what) {
@@ -27,9 +27,9 @@ std::string LibrariesTable(const Identity& what) {
     for (const Row& library : what.Libraries)
         rows += "<tr><td>" + Escaped(library[0]) + "</td><td>" + Escaped(library[1]) + "</td><td>" +
                 Escaped(library[2]) + "</td></tr>\n";
-    return "<table><caption>Libraries that the program loads</caption>\n<thead><tr>" + HeadCell("Library") +
-           HeadCell("Package and version") + HeadCell("File") + "</tr></thead>\n<tbody>\n" + rows +
-           "</tbody></table>\n";
+    return "<table class=\"libraries\"><caption>Libraries that the program loads</caption>\n<thead><tr>" +
+           HeadCell("Library") + HeadCell("Package and version") + HeadCell("File") +
+           "</tr></thead>\n<tbody>\n" + rows + "</tbody></table>\n";
 }
 
 std::string IdentityChapter(const Run& run) {
@@ -160,7 +160,8 @@ std::string FactsTable(const std::vector<Row>& rows, const std::string& caption)
     std::string html;
     for (const Row& row : rows)
         html += "<tr><th scope=\"row\">" + Escaped(row[0]) + "</th><td>" + Escaped(row[1]) + "</td></tr>\n";
-    return "<table><caption>" + Escaped(caption) + "</caption>\n<tbody>\n" + html + "</tbody></table>\n";
+    return "<table class=\"short\"><caption>" + Escaped(caption) + "</caption>\n<tbody>\n" + html +
+           "</tbody></table>\n";
 }
 
 std::string CheckLink(const Check& check) {

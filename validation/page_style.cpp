@@ -25,8 +25,9 @@ caption { text-align: left; font-style: italic; padding: 0 0 1mm; }
 th, td { border: 0.5pt solid #666; padding: 0.8mm 1.6mm; text-align: left; vertical-align: top; overflow-wrap: anywhere; }
 thead th { background: #e8e8e8; border-bottom: 1.2pt solid #000; overflow-wrap: break-word; }
 thead { display: table-header-group; }
-tr, figure, .conclusion, .signatures { break-inside: avoid; }
-td.result { white-space: nowrap; }
+tr, figure, table.short, .conclusion, .signatures { break-inside: avoid; }
+td.result { white-space: nowrap; width: 22%; }
+.libraries td { font-size: 7.5pt; padding-top: 0.3mm; padding-bottom: 0.3mm; }
 .hash { font: 7pt/1.3 "DejaVu Sans Mono", monospace; }
 figure { margin: 3mm 0 5mm; }
 figure svg { display: block; max-width: 100%; height: auto; }
@@ -39,7 +40,7 @@ figcaption { font-size: 8.5pt; font-style: italic; margin-top: 1mm; }
 .signatures td { height: 13mm; }
 @media print {
   body { max-width: none; padding: 0; }
-  #requirements, #statistics, #concealment, #conclusion { break-before: page; }
+  #identity, #requirements, #statistics, #concealment, #conclusion { break-before: page; }
   a { text-decoration: none; }
 }
 @page { size: A4; margin: 18mm 16mm 18mm 16mm;

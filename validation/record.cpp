@@ -23,23 +23,32 @@ std::string BodyRow(const Row& row) {
     return "<tr>" + cells + "</tr>\n";
 }
 
-/// A progress line: what runs, then what came of it.
-class Progress {
-  public:
-    Progress(const std::string& identifier, const std::string& title) {
-        std::cout << "  " << identifier << std::string(identifier.size() < 8 ? 8 - identifier.size() : 0, ' ')
-                  << "  " << title << std::flush;
-    }
-    static void End(const Check& check) {
-        if (check.Outcome == Result::Passed)
-            std::cout << ": passed";
-        else
-            std::cout << (check.Outcome == Result::Failed ? ": FAILED" : ": NOT RUN");
-        for (const std::string& reason : check.Reasons)
-            std::cout << "\n            " << reason;
-        std::cout << std::endl;
-    }
-};
+/// Tables of up to this many rows are not broken between pages.
+constexpr std::size_t ShortTable = 12;
+
+std::string TableStart(std::size_t rows, const std::string& caption, const Row& head) {
+    return std::string(rows <= ShortTable ? "<table class=\"short\">" : "<table>") + "<caption>" +
+           Escaped(caption) + "</caption>\n" + HeadCells(head) + "<tbody>\n";
+}
+
+void ShowStart(const std::string& identifier, const std::string& title) {
+    constexpr std::size_t width = 8;
+    std::cout << "  " << identifier
+              << std::string(identifier.size() < width ? width - identifier.size() : 0, ' ') << "  " << title
+              << std::flush;
+}
+
+void ShowEnd(const Check& check) {
+    if (check.Outcome == Result::Passed)
+        std::cout << ": passed";
+    else
+        std::cout << (check.Outcome == Result::Failed ? ": FAILED" : ": NOT RUN");
+    for (const std::string& reason : check.Reasons)
+        std::cout << "
+                     " << reason;
+            std::cout
+                  << std::endl;
+}
 
 } // namespace
 
@@ -62,7 +71,7 @@ void Evidence::Paragraph(const std::string& text) {
 }
 
 void Evidence::Table(const Row& head, const std::vector<Row>& rows, const std::string& caption) {
-    html_ += "<table><caption>" + Escaped(caption) + "</caption>\n" + HeadCells(head) + "<tbody>\n";
+    html_ += TableStart(rows.size(), caption, head);
     for (const Row& row : rows)
         html_ += BodyRow(row);
     html_ += "</tbody></table>\n";
@@ -84,7 +93,7 @@ std::string Evidence::Html() const {
     Row head{"What", "Expected", "Observed", "Result"};
     if (sources)
         head.emplace_back("Source");
-    std::string table = "<table><caption>Expected and observed</caption>\n" + HeadCells(head) + "<tbody>\n";
+    std::string table = TableStart(comparisons_.size(), "Expected and observed", head);
     for (const Comparison& c : comparisons_) {
         Row row{c.What, c.Expected, c.Observed, c.Expected == c.Observed ? "equal" : "NOT EQUAL"};
         if (sources)
@@ -96,7 +105,7 @@ std::string Evidence::Html() const {
 
 void Record::Run(const std::string& identifier, const std::string& requirement, const std::string& title,
                  Chapter place, const std::function<void(Evidence&)>& check) {
-    const Progress progress(identifier, title);
+    ShowStart(identifier, title);
     Check done{identifier, requirement, title, place, Result::NotRun, {}, ""};
     Evidence evidence;
     const auto failed = [&](const std::string& why) {
@@ -121,7 +130,7 @@ void Record::Run(const std::string& identifier, const std::string& requirement, 
     }
     done.Html = evidence.Html();
     checks_.push_back(std::move(done));
-    Progress::End(checks_.back());
+    ShowEnd(checks_.back());
 }
 
 } // namespace orvane::validation
