@@ -44,10 +44,8 @@ void ShowEnd(const Check& check) {
     else
         std::cout << (check.Outcome == Result::Failed ? ": FAILED" : ": NOT RUN");
     for (const std::string& reason : check.Reasons)
-        std::cout << "
-                     " << reason;
-            std::cout
-                  << std::endl;
+        std::cout << "\n            " << reason;
+    std::cout << std::endl;
 }
 
 } // namespace
