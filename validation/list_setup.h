@@ -1,0 +1,52 @@
+// What one list is made of: all that a user chooses before the button "Generate Random List" does its work.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace orvane::validation {
+
+// The numbers are those of the settings file.
+enum class BlockOption { One = 0, Equal = 1, Listed = 2, RandomSizes = 3 };
+enum class Alphabet { Letters = 0, Digits = 1, Mixed = 2 };
+enum class Form { TextFile, WebPage, Window, Clipboard };
+
+/// How the set-up reaches the program.
+enum class Way { Typed, Clicked, Loaded };
+
+struct ListSetup {
+    int Number = 0; ///< of the list in the record, from 1
+    Way Input = Way::Loaded;
+    BlockOption Blocks = BlockOption::One;
+    Alphabet Characters = Alphabet::Digits;
+    bool RandomCodes = false;
+    int CodeLength = 3;
+    Form Output = Form::TextFile;
+    int Columns = 6;
+    bool Border = false;
+    int Spacing = 1;
+    std::string Level; ///< of the Runs test; empty when the test is off
+    std::vector<std::string> Groups = {"Group 1", "Group 2"};
+    int SampleSize = 0;
+    int EqualSize = 0;            ///< of a block under BlockOption::Equal
+    std::vector<int> ListedSizes; ///< that a block may have under BlockOption::Listed
+    std::string ListedSizesText;  ///< the same as the user types them
+
+    [[nodiscard]] int GroupCount() const { return static_cast<int>(Groups.size()); }
+    [[nodiscard]] bool RunsTest() const { return !Level.empty(); }
+};
+
+/// The same set-up as a settings file, byte by byte.
+std::string SettingsBytes(const ListSetup& setup);
+
+/// The name of the list's file in the evidence, such as "list-01.txt".
+std::string FileName(const ListSetup& setup);
+
+// Words of the record.
+std::string Text(BlockOption option);
+std::string Text(Form form);
+std::string Text(Way way);
+/// Alphabet, order and length.
+std::string CodeText(const ListSetup& setup);
+
+} // namespace orvane::validation
