@@ -25,11 +25,15 @@ std::string Significant(double value, int digits) {
 }
 
 std::string Grouped(std::int64_t value) {
-    std::string digits = std::to_string(value);
-    const std::size_t first = value < 0 ? 1 : 0;
-    for (std::size_t at = digits.size(); at > first + 3;)
-        digits.insert(at -= 3, ",");
-    return digits;
+    const std::string digits = std::to_string(value);
+    std::string grouped;
+    for (std::size_t at = 0; at < digits.size(); ++at) {
+        const bool isStart = grouped.empty() || grouped == "-";
+        if (!isStart && (digits.size() - at) % 3 == 0)
+            grouped += ',';
+        grouped += digits[at];
+    }
+    return grouped;
 }
 
 } // namespace orvane::validation

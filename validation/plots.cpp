@@ -1,13 +1,13 @@
 #include "validation/plots.h"
 
 #include "validation/figures.h"
+#include "validation/html_text.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <string_view>
 
 namespace orvane::validation {
 namespace {
@@ -20,21 +20,6 @@ constexpr double Top = 30;
 constexpr double PlotHeight = 190;
 constexpr double Bottom = Top + PlotHeight;
 constexpr double CharacterWidth = 6;
-
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        if (c == '&')
-            escaped += "&amp;";
-        else if (c == '<')
-            escaped += "&lt;";
-        else if (c == '"')
-            escaped += "&quot;";
-        else
-            escaped += c;
-    }
-    return escaped;
-}
 
 std::string At(const char* name, double value) {
     return std::string(" ") + name + "=\"" + Fixed(value, 1) + '"';
