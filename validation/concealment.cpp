@@ -49,11 +49,14 @@ SimulatedShare Simulate(const ListMaker& makeList, int lists, int groups, double
     }
     const double mean = sum / lists;
     const double deviation = std::sqrt(std::max(squares / lists - mean * mean, 0.0) * lists);
-    SimulatedShare result{right / subjects, deviation / subjects, sum == 0 ? 1.0 : 0.0};
-    if (deviation > 0) {
-        const boost::math::normal normal;
-        result.PValue = 2 * boost::math::cdf(boost::math::complement(normal, std::abs(sum) / deviation));
-    }
+    SimulatedShare result{right / subjects, deviation / subjects, 0};
+    // In some plans every list is guessed equally often. What is then left of the sum is rounding.
+    const double rounding = 1e-9 * subjects;
+    if (deviation > rounding)
+        result.PValue =
+            2 * boost::math::cdf(boost::math::complement(boost::math::normal(), std::abs(sum) / deviation));
+    else
+        result.PValue = std::abs(sum) > rounding ? 0 : 1;
     return result;
 }
 

@@ -8,7 +8,9 @@
 #include "validation/page.h"
 #include "validation/print.h"
 #include "validation/record.h"
+#include "validation/statistics.h"
 #include "validation/work_folder.h"
+#include "validation/wrong_programs.h"
 
 #include <chrono>
 #include <exception>
@@ -33,7 +35,9 @@ std::string InWords(Clock::duration time) {
 }
 
 void RunChecks(Record& record, const Scale& scale) {
+    CheckStatistics(record, scale);
     CheckConcealment(record, scale);
+    CheckStatisticsChecks(record, scale);
 }
 
 /// Prints the page as it stands before this check, to learn whether the finished one can be printed.
