@@ -4,6 +4,8 @@
 #include "validation/html_text.h"
 #include "validation/page_chapters.h"
 
+#include <map>
+
 namespace orvane::validation {
 namespace {
 
@@ -47,6 +49,30 @@ std::string KeyFacts(const Run& run) {
     return FactsTable(rows, "What was checked and when");
 }
 
+std::string OutcomeRow(const Record& record, Chapter place, const std::string& name) {
+    std::map<Result, int> counts;
+    for (const Check& check : record.Checks())
+        if (check.Place == place)
+            ++counts[check.Outcome];
+    std::string cells;
+    for (const Result result : {Result::Passed, Result::Failed, Result::NotRun})
+        cells += "<td>" + std::to_string(counts[result]) + "</td>";
+    return "<tr><th scope=\"row\">" + name + "</th>" + cells + "</tr>\n";
+}
+
+std::string OutcomeTable(const Record& record) {
+    return "<table class=\"short\"><caption>Checks by chapter</caption>\n<thead><tr><th "
+           "scope=\"col\">Chapter</th>"
+           "<th scope=\"col\">Passed</th><th scope=\"col\">Failed</th><th scope=\"col\">Not "
+           "run</th></tr></thead>\n"
+           "<tbody>\n" +
+           OutcomeRow(record, Chapter::KnownAnswers, "Known answers") +
+           OutcomeRow(record, Chapter::Lists, "Lists of the real program") +
+           OutcomeRow(record, Chapter::Statistics, "Statistics of the draws") +
+           OutcomeRow(record, Chapter::Concealment, "Concealment") +
+           OutcomeRow(record, Chapter::ChecksOfChecks, "Checks of the checks") + "</tbody></table>\n";
+}
+
 std::string Contents() {
     std::string items;
     int number = 0;
@@ -69,8 +95,8 @@ std::string RecordPage(const Record& record, const Run& run) {
            "</h1>\n<p class=\"subtitle\">Documented evidence that the program does what a randomized trial "
            "needs of "
            "it, made on the machine on which it is used.</p>\n" +
-           ConclusionBox(record) + QuickBox(run) + KeyFacts(run) + "</header>\n" + Contents() + "<main>\n" +
-           AllChapters(record, run) + "</main>\n</body>\n</html>\n";
+           ConclusionBox(record) + QuickBox(run) + KeyFacts(run) + OutcomeTable(record) + "</header>\n" +
+           Contents() + "<main>\n" + AllChapters(record, run) + "</main>\n</body>\n</html>\n";
 }
 
 } // namespace orvane::validation

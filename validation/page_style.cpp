@@ -26,6 +26,7 @@ th, td { border: 0.5pt solid #666; padding: 0.8mm 1.6mm; text-align: left; verti
 thead th { background: #e8e8e8; border-bottom: 1.2pt solid #000; overflow-wrap: break-word; }
 thead { display: table-header-group; }
 tr, figure, table.short, .conclusion, .signatures { break-inside: avoid; }
+td.figure { white-space: nowrap; overflow-wrap: normal; }
 td.result { white-space: nowrap; width: 22%; }
 .libraries td { font-size: 7.5pt; padding-top: 0.3mm; padding-bottom: 0.3mm; }
 .hash { font: 7pt/1.3 "DejaVu Sans Mono", monospace; }

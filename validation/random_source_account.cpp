@@ -150,12 +150,14 @@ void Explain(Record& record) {
                                       "program's memory after a reseed "
                                       "does not tell what was drawn before it.");
                    evidence.Paragraph("What this rests on. That the operating system's random generator is "
-                                      "sound, that ChaCha with 8 rounds "
-                                      "cannot be told from random, and that nobody reads the memory of the "
-                                      "running program or the finished "
-                                      "list. The first two are the basis of most encrypted traffic today; "
-                                      "the third is up to those who keep "
-                                      "the machine and the list.");
+                                      "sound, that the output of ChaCha with "
+                                      "8 rounds cannot be told from random, and that nobody reads the memory "
+                                      "of the running program or the "
+                                      "finished list. The same cipher with 20 rounds protects much of "
+                                      "today's encrypted traffic; the best "
+                                      "published attacks reach 7 rounds. The third point is up to those who "
+                                      "keep the machine and the "
+                                      "list.");
                });
 }
 

@@ -16,10 +16,16 @@ std::string HeadCells(const Row& head) {
     return "<thead><tr>" + cells + "</tr></thead>\n";
 }
 
+/// Whether the text is a short number, which no line break may cut.
+bool IsFigure(const std::string& text) {
+    constexpr std::size_t longest = 16;
+    return text.size() <= longest && text.find_first_not_of("0123456789.,+-e%") == std::string::npos;
+}
+
 std::string BodyRow(const Row& row) {
     std::string cells;
     for (const std::string& text : row)
-        cells += "<td>" + Escaped(text) + "</td>";
+        cells += (IsFigure(text) ? "<td class=\"figure\">" : "<td>") + Escaped(text) + "</td>";
     return "<tr>" + cells + "</tr>\n";
 }
 
