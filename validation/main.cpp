@@ -4,6 +4,7 @@
 #include "validation/conclusion.h"
 #include "validation/identity.h"
 #include "validation/json_record.h"
+#include "validation/lists.h"
 #include "validation/output_folder.h"
 #include "validation/page.h"
 #include "validation/print.h"
@@ -38,6 +39,7 @@ void RunChecks(Record& record, const Scale& scale) {
     CheckStatistics(record, scale);
     CheckConcealment(record, scale);
     CheckStatisticsChecks(record, scale);
+    CheckListChecks(record, scale);
 }
 
 /// Prints the page as it stands before this check, to learn whether the finished one can be printed.
