@@ -97,11 +97,15 @@ std::string Sha256(const std::string& bytes) {
     return digits.get();
 }
 
+void RequireProgram(const fs::path& appFolder) {
+    if (!fs::is_regular_file(appFolder / ProgramFile))
+        throw std::runtime_error(appFolder.string() + " holds no program of the name " + ProgramFile + ".");
+}
+
 Identity Identify(const fs::path& appFolder, const SourceState& sources) {
+    RequireProgram(appFolder);
     const fs::path folder = fs::canonical(appFolder);
     const fs::path program = folder / ProgramFile;
-    if (!fs::is_regular_file(program))
-        throw std::runtime_error(folder.string() + " holds no program of the name " + ProgramFile + ".");
     Identity identity;
     identity.Program = ApplicationTitle;
     identity.Version = std::to_string(ApplicationVersion.Major) + "." +

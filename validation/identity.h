@@ -28,7 +28,10 @@ struct Identity {
         Libraries; ///< of each library that the program loads the name, the version and the place
 };
 
-/// Throws std::runtime_error when `appFolder` holds no program or a file of it cannot be read.
+/// Throws std::runtime_error, with words for the user, when the folder holds no program.
+void RequireProgram(const std::filesystem::path& appFolder);
+
+/// Throws std::runtime_error when the folder holds no program or a file of it cannot be read.
 Identity Identify(const std::filesystem::path& appFolder, const SourceState& sources);
 
 /// The SHA-256 of bytes in hexadecimal digits.

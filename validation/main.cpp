@@ -60,6 +60,7 @@ int Validate(const Arguments& arguments) {
     const Clock::time_point start = Clock::now();
     const WorkFolder work;
     work.RemoveOnSignals();
+    RequireProgram(arguments.App);
     const OutputFolder output(arguments.Output);
     Run run;
     run.What = Identify(arguments.App, arguments.Sources);
