@@ -1,0 +1,40 @@
+// The quick form of the validation, as a user runs it.
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+using Json = nlohmann::json;
+
+std::string Content(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Validation, PassesInItsQuickFormAndSaysSoToOtherPrograms) {
+    const fs::path folder = RECORD_FOLDER;
+    const std::string command =
+        std::string("'" ON_DISPLAY "' '" VALIDATION "' '" APP "' '") + folder.string() + "' --quick";
+    EXPECT_EQ(std::system(command.c_str()), 0); // NOLINT(cert-env33-c): paths of the build, quoted
+
+    const Json record = Json::parse(Content(folder / "validation-record.json"));
+    EXPECT_EQ(record["conclusion"], "passed");
+    EXPECT_EQ(record["quick"], true);
+    for (const Json& check : record["checks"])
+        EXPECT_EQ(check["result"], "passed") << check;
+    // A requirement whose checks are all gone would pass unseen.
+    for (const Json& requirement : record["requirements"])
+        EXPECT_FALSE(requirement["checks"].empty()) << requirement;
+    EXPECT_EQ(std::system(("tidy -e -q '" + (folder / "validation-record.htm").string() + "'").c_str()),
+              0); // NOLINT(cert-env33-c)
+    EXPECT_EQ(Content(folder / "validation-record.pdf").substr(0, 5), "%PDF-");
+}
+
+} // namespace
