@@ -63,19 +63,13 @@ std::string Operator() {
     return std::string(g_get_user_name()) + " (" + g_get_real_name() + ")";
 }
 
-std::vector<Row> DeliveredFiles(const fs::path& folder) {
-    std::vector<Row> files;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
-        const std::string name = entry.path().lexically_relative(folder).string();
-        if (entry.is_symlink()) {
-            files.push_back({name, "link to " + fs::read_symlink(entry.path()).string(), ""});
-        } else if (entry.is_regular_file()) {
-            const std::string bytes = ReadWhole(entry.path());
-            files.push_back({name, std::to_string(bytes.size()), Sha256(bytes)});
-        }
-    }
-    std::sort(files.begin(), files.end());
-    return files;
+/// The SHA-256 of bytes in hexadecimal digits.
+std::string Sha256(const std::string& bytes) {
+    const std::unique_ptr<char, decltype(&g_free)> digits(
+        g_compute_checksum_for_data(G_CHECKSUM_SHA256, reinterpret_cast<const guchar*>(bytes.data()),
+                                    bytes.size()),
+        g_free);
+    return digits.get();
 }
 
 /// Whether the delivered program is the one that was built beside this validation.
@@ -89,12 +83,19 @@ std::string Origin(const fs::path& program, const fs::path& built) {
 
 } // namespace
 
-std::string Sha256(const std::string& bytes) {
-    const std::unique_ptr<char, decltype(&g_free)> digits(
-        g_compute_checksum_for_data(G_CHECKSUM_SHA256, reinterpret_cast<const guchar*>(bytes.data()),
-                                    bytes.size()),
-        g_free);
-    return digits.get();
+std::vector<Row> FilesBelow(const fs::path& folder) {
+    std::vector<Row> files;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+        const std::string name = entry.path().lexically_relative(folder).string();
+        if (entry.is_symlink()) {
+            files.push_back({name, "link to " + fs::read_symlink(entry.path()).string(), ""});
+        } else if (entry.is_regular_file()) {
+            const std::string bytes = ReadWhole(entry.path());
+            files.push_back({name, std::to_string(bytes.size()), Sha256(bytes)});
+        }
+    }
+    std::sort(files.begin(), files.end());
+    return files;
 }
 
 void RequireProgram(const fs::path& appFolder) {
@@ -124,7 +125,7 @@ Identity Identify(const fs::path& appFolder, const SourceState& sources) {
                       {"Operating system", OperatingSystem()},
                       {"Date", identity.Started},
                       {"Run by", Operator()}};
-    identity.Files = DeliveredFiles(folder);
+    identity.Files = FilesBelow(folder);
     identity.Libraries = LoadedLibraries(program);
     return identity;
 }

@@ -34,7 +34,7 @@ void RequireProgram(const std::filesystem::path& appFolder);
 /// Throws std::runtime_error when the folder holds no program or a file of it cannot be read.
 Identity Identify(const std::filesystem::path& appFolder, const SourceState& sources);
 
-/// The SHA-256 of bytes in hexadecimal digits.
-std::string Sha256(const std::string& bytes);
+/// The files below a folder, sorted: of each its name, its size in bytes and its SHA-256.
+std::vector<Row> FilesBelow(const std::filesystem::path& folder);
 
 } // namespace orvane::validation

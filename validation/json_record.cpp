@@ -36,9 +36,9 @@ Json Requirements(const Record& record) {
     return requirements;
 }
 
-Json Files(const Identity& what) {
+Json Files(const std::vector<Row>& rows) {
     Json files = Json::array();
-    for (const Row& file : what.Files)
+    for (const Row& file : rows)
         files.push_back({{"name", file[0]}, {"size", file[1]}, {"sha256", file[2]}});
     return files;
 }
@@ -53,12 +53,19 @@ Json Libraries(const Identity& what) {
 } // namespace
 
 std::string RecordJson(const Record& record, const Run& run) {
-    const Json all{{"program", run.What.Program}, {"version", run.What.Version},
-                   {"commit", run.What.Commit},   {"tree", run.What.Tree},
-                   {"date", run.What.Started},    {"duration", run.Duration},
-                   {"quick", run.Quick},          {"conclusion", AllPassed(record) ? "passed" : "failed"},
-                   {"checks", Checks(record)},    {"requirements", Requirements(record)},
-                   {"files", Files(run.What)},    {"libraries", Libraries(run.What)}};
+    const Json all{{"program", run.What.Program},
+                   {"version", run.What.Version},
+                   {"commit", run.What.Commit},
+                   {"tree", run.What.Tree},
+                   {"date", run.What.Started},
+                   {"duration", run.Duration},
+                   {"quick", run.Quick},
+                   {"conclusion", AllPassed(record) ? "passed" : "failed"},
+                   {"checks", Checks(record)},
+                   {"requirements", Requirements(record)},
+                   {"files", Files(run.What.Files)},
+                   {"evidence", Files(run.Evidence)},
+                   {"libraries", Libraries(run.What)}};
     constexpr int indent = 2;
     return all.dump(indent, ' ', false, Json::error_handler_t::replace) + "\n";
 }

@@ -42,13 +42,20 @@ void RunChecks(Record& record, const Scale& scale) {
     CheckListChecks(record, scale);
 }
 
+/// What the checks have left in the folder of the record.
+std::vector<Row> EvidenceIn(const fs::path& folder) {
+    std::vector<Row> files = FilesBelow(folder);
+    std::erase_if(files, [](const Row& file) { return file[0] == UnfinishedMark; });
+    return files;
+}
+
 /// Prints the page as it stands before this check, to learn whether the finished one can be printed.
 void CheckPrinting(Record& record, const Run& run, const fs::path& work) {
     record.Run("USE-3.1", "USE-3", "The record is printed to PDF on A4", Chapter::KnownAnswers,
                [&](Evidence& evidence) {
                    const int pages = PagesOf(PrintedPage(RecordPage(record, run), work));
                    evidence.Demand(pages > 1, "The PDF has " + std::to_string(pages) + " pages.");
-                   evidence.Paragraph("Chromium printed the record.");
+                   evidence.Paragraph("Chromium printed the record on " + std::to_string(pages) + " pages.");
                });
 }
 
@@ -71,6 +78,7 @@ int Validate(const Arguments& arguments) {
     Record record;
     RunChecks(record, {run.Quick});
     run.Duration = InWords(Clock::now() - start);
+    run.Evidence = EvidenceIn(output.Path());
     CheckPrinting(record, run, work.Path());
 
     std::map<std::string, std::string> files;

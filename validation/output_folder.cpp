@@ -15,7 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* Unfinished = "unfinished.txt";
 constexpr const char* UnfinishedText =
     "A validation is at work here, or was stopped before its end. There is no record of it.\n";
 constexpr const char* Records[] = {"validation-record.json", "validation-record.htm",
@@ -26,7 +25,7 @@ constexpr const char* Records[] = {"validation-record.json", "validation-record.
 }
 
 bool HoldsValidation(const fs::path& folder) {
-    if (fs::exists(folder / Unfinished))
+    if (fs::exists(folder / UnfinishedMark))
         return true;
     for (const char* record : Records)
         if (fs::exists(folder / record))
@@ -63,10 +62,10 @@ OutputFolder::OutputFolder(const fs::path& path) : path_(fs::absolute(path)) {
     for (const char* record : Records)
         fs::remove(path_ / record);
     // The mark stays until the end, so that a folder that was left half empty can be used again.
-    WriteWhole(path_ / Unfinished, UnfinishedText);
+    WriteWhole(path_ / UnfinishedMark, UnfinishedText);
     std::vector<fs::path> old;
     for (const fs::directory_entry& entry : fs::directory_iterator(path_))
-        if (entry.path().filename() != Unfinished)
+        if (entry.path().filename() != UnfinishedMark)
             old.push_back(entry.path());
     for (const fs::path& entry : old)
         fs::remove_all(entry);
@@ -83,7 +82,7 @@ void OutputFolder::Finish(const std::map<std::string, std::string>& files) const
             fs::rename(path_ / (name + ".part"), path_ / name);
             made.push_back(path_ / name);
         }
-        fs::remove(path_ / Unfinished);
+        fs::remove(path_ / UnfinishedMark);
     } catch (...) {
         for (const fs::path& path : made)
             RemoveQuietly(path);

@@ -7,7 +7,10 @@
 
 namespace orvane::validation {
 
-/// While a validation runs, the folder holds the file "unfinished.txt" and no record.
+/// The file that the folder holds while a validation runs.
+inline constexpr const char* UnfinishedMark = "unfinished.txt";
+
+/// While a validation runs, the folder holds the mark above and no record.
 class OutputFolder {
   public:
     /// Makes the folder, or empties the one of an earlier validation, its record first. Throws

@@ -5,13 +5,15 @@
 #include "validation/record.h"
 
 #include <string>
+#include <vector>
 
 namespace orvane::validation {
 
 struct Run {
     Identity What;
     bool Quick = false;
-    std::string Duration; ///< of all checks, in words
+    std::string Duration;      ///< of all checks, in words
+    std::vector<Row> Evidence; ///< of each file that is kept as evidence the name, the size and the SHA-256
 };
 
 /// The whole record as one HTML page that needs no other file.

@@ -11,13 +11,13 @@ std::string HeadCell(const std::string& text) {
     return "<th scope=\"col\">" + text + "</th>";
 }
 
-std::string FilesTable(const Identity& what) {
+std::string FilesTable(const std::vector<Row>& files, const std::string& caption) {
     std::string rows;
-    for (const Row& file : what.Files)
+    for (const Row& file : files)
         rows += "<tr><td>" + Escaped(file[0]) + "</td><td>" + Escaped(file[1]) + "</td><td class=\"hash\">" +
                 file[2] + "</td></tr>\n";
-    return "<table class=\"short\"><caption>Delivered files</caption>\n<thead><tr>" + HeadCell("File") +
-           HeadCell("Bytes") + HeadCell("SHA-256") + "</tr></thead>\n<tbody>\n" + rows + "</tbody></table>\n";
+    return "<table><caption>" + caption + "</caption>\n<thead><tr>" + HeadCell("File") + HeadCell("Bytes") +
+           HeadCell("SHA-256") + "</tr></thead>\n<tbody>\n" + rows + "</tbody></table>\n";
 }
 
 std::string LibrariesTable(const Identity& what) {
@@ -36,7 +36,8 @@ std::string IdentityChapter(const Run& run) {
     std::vector<Row> facts = run.What.Facts;
     facts.push_back({"Form", run.Quick ? "quick" : "full"});
     facts.push_back({"Duration", run.Duration});
-    return FactsTable(facts, "Program, machine and run") + FilesTable(run.What) + LibrariesTable(run.What);
+    return FactsTable(facts, "Program, machine and run") + FilesTable(run.What.Files, "Delivered files") +
+           LibrariesTable(run.What);
 }
 
 std::string RequirementRow(const Record& record, const Requirement& requirement) {
@@ -95,7 +96,14 @@ std::string ChecksChapter(const Record& record, Chapter place, const std::string
            (html.empty() ? "<p><strong>No check of this chapter was run.</strong></p>\n" : html);
 }
 
-std::string ConclusionChapter(const Record& record) {
+std::string EvidenceFiles(const Run& run) {
+    if (run.Evidence.empty())
+        return "";
+    return "<h3>Evidence files</h3>\n<p>These files belong to the record and are filed with it.</p>\n" +
+           FilesTable(run.Evidence, "Files in the folder of this record");
+}
+
+std::string ConclusionChapter(const Record& record, const Run& run) {
     std::string html;
     for (const std::string& line : Conclusion(record))
         html += "<p><strong>" + Escaped(line) + "</strong></p>\n";
@@ -103,7 +111,8 @@ std::string ConclusionChapter(const Record& record) {
     for (const std::string& identifier : Unchecked(record))
         unchecked += (unchecked.empty() ? "" : ", ") + identifier;
     html += "<p>Requirements without a check: " + (unchecked.empty() ? "none" : unchecked) + ".</p>\n";
-    return html + "<h3>What was not covered</h3>\n" + NotCovered() + "<h3>Signatures</h3>\n" + Signatures();
+    return html + "<h3>What was not covered</h3>\n" + NotCovered() + EvidenceFiles(run) +
+           "<h3>Signatures</h3>\n" + Signatures();
 }
 
 constexpr const char* KnownAnswersIntro = "Cases whose right answer is known beforehand. Each stands here "
@@ -153,7 +162,7 @@ std::string AllChapters(const Record& record, const Run& run) {
            ChapterHtml(5, ChecksChapter(record, Chapter::Statistics, StatisticsIntro)) +
            ChapterHtml(6, ChecksChapter(record, Chapter::Concealment, ConcealmentIntro)) +
            ChapterHtml(7, ChecksChapter(record, Chapter::ChecksOfChecks, ChecksIntro)) +
-           ChapterHtml(8, ConclusionChapter(record));
+           ChapterHtml(8, ConclusionChapter(record, run));
 }
 
 std::string FactsTable(const std::vector<Row>& rows, const std::string& caption) {

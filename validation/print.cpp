@@ -30,8 +30,8 @@ std::string PrintedPage(const std::string& page, const std::filesystem::path& wo
     // The page is our own, so the browser's sandbox, which root cannot have, protects nothing here.
     const ProgramAnswer answer =
         Ask({browser, "--headless", "--no-sandbox", "--disable-gpu", "--no-pdf-header-footer",
-             "--user-data-dir=" + (work / "profile").string(), "--print-to-pdf=" + pdf.string(),
-             "file://" + html.string()},
+             "--generate-pdf-document-outline", "--user-data-dir=" + (work / "profile").string(),
+             "--print-to-pdf=" + pdf.string(), "file://" + html.string()},
             120);
     if (!std::filesystem::exists(pdf))
         throw std::runtime_error("Chromium printed nothing (exit code " + std::to_string(answer.ExitCode) +
