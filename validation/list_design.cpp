@@ -199,14 +199,6 @@ std::vector<std::string> GroupNames(int count, bool wide) {
     return names;
 }
 
-/// The shortest code that the options window allows for a sample size.
-int ShortestCode(int sampleSize) {
-    int length = 1;
-    for (double reach = 3.16; sampleSize > reach; reach *= 10)
-        ++length;
-    return length;
-}
-
 void SetBlockSizes(ListSetup& setup) {
     const int groups = setup.GroupCount();
     if (setup.Blocks == BlockOption::Equal)

@@ -100,6 +100,22 @@ bool Shows(const std::string& shown, double value) {
     return std::regex_match(shown, picture) && std::abs(std::stod(shown) - value) <= 0.00005 + Rounding;
 }
 
+/// The bytes of a file as text in UTF-8 with lines ended by LF. The names of the design have no letter in
+/// which the 8-bit code page differs from the first 256 characters of Unicode.
+std::string ShownText(const std::string& bytes) {
+    std::string text;
+    for (const char letter : bytes) {
+        const auto code = static_cast<unsigned char>(letter);
+        if (code >= 0x80U) {
+            text += static_cast<char>(0xC0U | (code >> 6U));
+            text += static_cast<char>(0x80U | (code & 0x3FU));
+        } else if (letter != '\r') {
+            text += letter;
+        }
+    }
+    return text;
+}
+
 } // namespace
 
 Faults EvenBlocks(const MadeList& list) {
@@ -242,9 +258,7 @@ Faults Layout(const MadeList& list) {
 
 Faults WindowShowsTheList(const MadeList& list) {
     Faults faults = Layout(list);
-    std::string lines = list.Bytes;
-    lines.erase(std::remove(lines.begin(), lines.end(), '\r'), lines.end());
-    if (!list.Window || list.Window->Text != lines)
+    if (!list.Window || list.Window->Text != ShownText(list.Bytes))
         faults.emplace_back("the window shows another text than the saved file holds");
     return faults;
 }

@@ -46,6 +46,13 @@ std::string SettingsBytes(const ListSetup& setup) {
     return file.str();
 }
 
+int ShortestCode(int sampleSize) {
+    int length = 1;
+    for (double reach = 3.16; sampleSize > reach; reach *= 10)
+        ++length;
+    return length;
+}
+
 std::string FileName(const ListSetup& setup) {
     const std::string number = std::to_string(setup.Number);
     return "list-" + (number.size() < 2 ? "0" + number : number) +

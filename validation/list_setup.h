@@ -39,6 +39,9 @@ struct ListSetup {
 /// The same set-up as a settings file, byte by byte.
 std::string SettingsBytes(const ListSetup& setup);
 
+/// The shortest code that the options window allows for a sample size.
+int ShortestCode(int sampleSize);
+
 /// The name of the list's file in the evidence, such as "list-01.txt".
 std::string FileName(const ListSetup& setup);
 

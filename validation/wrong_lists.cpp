@@ -147,8 +147,7 @@ void AddBlockFaults(std::vector<WrongList>& wrong) {
         Wrong("two blocks where one was chosen", "BLK-1.10", Form::TextFile, UnderOption(BlockOption::One)));
     wrong.push_back(Wrong("a block of 4 where 6 was chosen", "BLK-2.10", Form::TextFile,
                           UnderOption(BlockOption::Equal)));
-    const std::string ruled(55, '=');
-    wrong.push_back(Wrong("the last block missing", "BLK-3.10", Form::TextFile, Without("007", ruled)));
+    wrong.push_back(Wrong("the last block missing", "BLK-3.10", Form::TextFile, Without("007", Ruled(55))));
     wrong.push_back(Wrong("a block cut by its last row", "BLK-3.10", Form::TextFile, Without("008", "\n")));
     wrong.push_back(Wrong("one block too many", "BLK-3.10", Form::TextFile,
                           [](MadeList& list) { list.Bytes += TextBytes().substr(TextBytes().find("007")); }));

@@ -1,0 +1,166 @@
+#include "validation/lists.h"
+
+#include "validation/list_checks.h"
+#include "validation/list_design.h"
+#include "validation/list_maker.h"
+#include "validation/window_checks.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+#include <optional>
+
+namespace orvane::validation {
+
+namespace {
+
+constexpr std::size_t MostLists = 100; // the full design has fewer
+constexpr std::size_t QuickLists = 8;
+
+std::string Number(std::size_t number) {
+    return std::to_string(number);
+}
+
+/// What the design covers, counted anew from its lists.
+void CheckDesign(Evidence& evidence, const Scale& scale, const std::vector<Combination>& design) {
+    const Coverage coverage = CoverageOf(design);
+    evidence.Compare("choices that some list has", Number(coverage.Levels), Number(coverage.CoveredLevels));
+    if (scale.Quick)
+        evidence.Paragraph("The quick form covers " + Number(coverage.CoveredPairs) + " of " +
+                           Number(coverage.Pairs) + " pairs of choices; a full validation covers all.");
+    else
+        evidence.Compare("pairs of choices that meet in some list", Number(coverage.Pairs),
+                         Number(coverage.CoveredPairs));
+    std::vector<Row> rows;
+    for (const Factor& factor : Factors()) {
+        std::string levels;
+        for (const std::string& level : factor.Levels)
+            levels += (levels.empty() ? "" : "; ") + level;
+        rows.push_back({factor.Name, levels});
+    }
+    evidence.Table({"What the user chooses", "Choices of the design"}, rows);
+    evidence.Paragraph(
+        "Not possible together, because the program refuses names that are wider than a column "
+        "of the clipboard: clipboard with names wider than a column; clipboard in 10 columns "
+        "with codes of 10 characters.");
+}
+
+Row SetupRow(const ListSetup& setup) {
+    std::string blocks = Text(setup.Blocks);
+    if (setup.Blocks == BlockOption::Equal)
+        blocks += " of " + std::to_string(setup.EqualSize);
+    if (setup.Blocks == BlockOption::Listed)
+        blocks += " " + setup.ListedSizesText;
+    return {std::to_string(setup.Number),
+            Text(setup.Input),
+            blocks,
+            std::to_string(setup.GroupCount()),
+            std::to_string(setup.SampleSize),
+            CodeText(setup),
+            Text(setup.Output),
+            std::to_string(setup.Columns) +
+                (setup.Output == Form::WebPage
+                     ? (setup.Border ? ", border, " : ", no border, ") + std::to_string(setup.Spacing)
+                     : ""),
+            setup.RunsTest() ? setup.Level : "off"};
+}
+
+/// Makes all lists; what cannot be made fails this check and each later one that would judge it.
+std::vector<MadeList> MakeLists(Evidence& evidence, ListMaker& maker, const std::vector<ListSetup>& setups) {
+    std::vector<MadeList> lists;
+    std::vector<Row> rows;
+    for (const ListSetup& setup : setups) {
+        lists.push_back(maker.Make(setup));
+        std::cout << '.' << std::flush; // this check takes longest
+        const MadeList& list = lists.back();
+        evidence.Demand(list.NotMade.empty(),
+                        "list " + std::to_string(setup.Number) + " was not made: " + list.NotMade);
+        Row row = SetupRow(setup);
+        row.push_back(list.Readable()        ? BlocksText(list)
+                      : list.NotMade.empty() ? "not readable"
+                                             : "NOT MADE");
+        rows.push_back(row);
+    }
+    evidence.Table({"List", "Set-up", "Blocks", "Groups", "Sample size", "Codes", "Form", "Columns",
+                    "Runs test", "Blocks found"},
+                   rows);
+    for (const MadeList& list : lists)
+        if (list.NotMade.empty())
+            evidence.File("lists/" + FileName(list.Setup));
+    return lists;
+}
+
+/// Runs one check over all lists to which it applies.
+void Judge(Evidence& evidence, const ListCheck& check, const std::vector<MadeList>& lists) {
+    std::vector<Row> rows;
+    for (const MadeList& list : lists) {
+        if (!check.Applies(list.Setup))
+            continue;
+        const std::string name = "list " + std::to_string(list.Setup.Number);
+        Faults faults;
+        if (!list.NotMade.empty())
+            faults = {"was not made"};
+        else if (check.NeedsBlocks && !list.Readable())
+            faults = {"could not be read"};
+        else
+            faults = check.Judge(list);
+        for (const std::string& fault : faults)
+            evidence.Demand(false, name + ": " + fault);
+        const bool canTell = list.NotMade.empty() && (!check.NeedsBlocks || list.Readable());
+        rows.push_back({std::to_string(list.Setup.Number), canTell ? check.Found(list) : "",
+                        faults.empty() ? "right" : "WRONG"});
+    }
+    if (rows.empty())
+        throw CannotRun("None of these lists has what is checked here.");
+    evidence.Demand(!rows.empty(), "no list was judged");
+    evidence.Table({"List", "Found", "Result"}, rows);
+}
+
+std::vector<ListSetup> LoadedSetups(const std::vector<ListSetup>& setups, std::size_t most) {
+    std::vector<ListSetup> loaded;
+    for (const ListSetup& setup : setups)
+        if (setup.Input == Way::Loaded && loaded.size() < most)
+            loaded.push_back(setup);
+    return loaded;
+}
+
+} // namespace
+
+void CheckLists(Record& record, const Scale& scale, const ListWorkplace& place) {
+    const std::vector<Combination> design = BuildDesign(scale.Quick ? QuickLists : MostLists);
+    const std::vector<ListSetup> setups = Setups(design);
+    record.Run("ASG-1.11", "ASG-1", "The design of the lists", Chapter::Lists,
+               [&](Evidence& evidence) { CheckDesign(evidence, scale, design); });
+
+    std::unique_ptr<ListMaker> maker;
+    std::optional<std::vector<MadeList>> lists;
+    const auto ready = [&]() -> ListMaker& {
+        if (!maker)
+            throw CannotRun("The program could not be brought on a display.");
+        return *maker;
+    };
+    record.Run("USE-1.10", "USE-1", "Lists made through the windows", Chapter::Lists,
+               [&](Evidence& evidence) {
+                   if (std::getenv("ORVANE_DISPLAY_FOLDER") == nullptr)
+                       throw CannotRun("There is no display of its own to run the program on.");
+                   maker = std::make_unique<ListMaker>(place.Program, place.Evidence);
+                   lists = MakeLists(evidence, *maker, setups);
+               });
+    for (const ListCheck& check : ListChecks())
+        record.Run(check.Identifier, check.Requirement, check.Title, Chapter::Lists, [&](Evidence& evidence) {
+            if (!lists)
+                throw CannotRun("No lists were made.");
+            Judge(evidence, check, *lists);
+        });
+    record.Run("SET-2.10", "SET-2", "Settings through the windows and back", Chapter::Lists,
+               [&](Evidence& evidence) {
+                   CheckSettingsFiles(evidence, ready(),
+                                      LoadedSetups(setups, static_cast<std::size_t>(scale.Of(4, 1))));
+               });
+    record.Run("MSG-1.10", "MSG-1", "Refusals in the windows", Chapter::Lists,
+               [&](Evidence& evidence) { CheckRefusals(evidence, ready()); });
+    record.Run("USE-1.11", "USE-1", "Commands by the keyboard alone", Chapter::Lists,
+               [&](Evidence& evidence) { CheckCommandsByKeys(evidence, ready()); });
+}
+
+} // namespace orvane::validation
