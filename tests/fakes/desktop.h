@@ -2,27 +2,54 @@
 // test.
 #pragma once
 
-#include "fakes/memory_clipboard.h"
 #include "fakes/memory_files.h"
-#include "fakes/memory_grid.h"
-#include "fakes/messages.h"
 #include "fakes/random.h"
-#include "fakes/scripted_dialog.h"
+#include "platform/common_dialog.h"
+#include "platform/ms_flex_grid.h"
 #include "platform/platform.h"
 
-#include <algorithm>
+#include <gtest/gtest.h>
+
 #include <array>
-#include <cstdint>
-#include <map>
-#include <string>
-#include <tuple>
-#include <utility>
-#include <vector>
+#include <deque>
+#include <numeric>
+#include <optional>
 
 namespace orvane::fakes {
 
-class RecordingPointer : public MousePointer {
+using Texts = std::vector<std::string>;
+
+/// Keeps every message. A message that nobody has taken fails the test.
+class ScriptedMessageBox : public MessageBox {
   public:
+    ScriptedMessageBox() = default;
+    ScriptedMessageBox(const ScriptedMessageBox&) = delete;
+    ScriptedMessageBox& operator=(const ScriptedMessageBox&) = delete;
+    ~ScriptedMessageBox() override { EXPECT_EQ(unread_, Texts{}) << "messages left unread"; }
+
+    void Show(const std::string& text) override {
+        unread_.push_back(text);
+        if (WhileShown)
+            WhileShown();
+    }
+    void ShowExclamation(const std::string& text, const std::string& title) override {
+        Show("(!) " + title + ": " + text);
+    }
+    Texts TakeAll() { return std::exchange(unread_, {}); }
+    /// The only unread message; "" when there is none.
+    std::string Take() {
+        const Texts texts = TakeAll();
+        EXPECT_LE(texts.size(), 1U) << texts.back();
+        return texts.empty() ? "" : texts.front();
+    }
+
+    std::function<void()> WhileShown; ///< runs while a message is open
+
+  private:
+    Texts unread_;
+};
+
+struct RecordingPointer : MousePointer {
     void ShowBusy() override {
         Busy = true;
         Calls += 'B';
@@ -35,53 +62,78 @@ class RecordingPointer : public MousePointer {
     std::string Calls; ///< "B" and "N" in order
 };
 
-/// Finds and starts programs as it is told; keeps what it started.
-class FakeShell : public Shell32 {
-  public:
-    std::int32_t FindExecutableA(const std::string& path, std::string& program) override {
-        Asked.push_back(path);
-        if (Found <= 32)
-            return Found;
+/// Finds and starts programs with the answers that it is given.
+struct FakeShell : Shell32, Faults {
+    std::int32_t FindExecutableA(const std::string& /*path*/, std::string& program) override {
         program = "viewer";
         return Found;
     }
     std::int32_t ShellExecuteA(std::intptr_t owner, const std::string& program,
                                const std::string& path) override {
-        if (Starts > 32)
-            Started.push_back(program + " " + path);
         LastOwner = owner;
+        Started.push_back(program + " " + path);
         return Starts;
     }
     void StartProgram(const std::string& path) override {
-        if (Starts <= 32)
-            throw Failure("cannot start " + path, failure_number::CannotStart, "FakeShell");
+        Try("StartProgram");
         Started.push_back(path);
     }
-    std::int32_t Found = 42;
-    std::int32_t Starts = 42;
+    std::int32_t Found = 33;
+    std::int32_t Starts = 33;
     std::intptr_t LastOwner = 0;
-    std::vector<std::string> Asked;
-    std::vector<std::string> Started; ///< "viewer PATH", or the path of a program started by itself
+    Texts Started; ///< "viewer PATH", or the path of a program started by itself
+};
+
+/// Operations that fail give the answer that says so.
+struct MemoryClipboard : Clipboard, Faults {
+    std::string Content = "earlier content"; ///< bytes, without the terminator
+    std::string Calls;                       ///< each with a blank behind it
+    std::vector<char> Block;                 ///< the only one, empty when it is freed or handed over
+
+    bool Works(const std::string& call) {
+        Calls += call + " ";
+        return !Failing(call);
+    }
+    GlobalHandle GlobalAlloc(std::uint32_t flags, std::size_t bytes) override {
+        Calls += std::to_string(flags) + "*" + std::to_string(bytes) + " ";
+        Block.assign(bytes, '\0');
+        return Works("GlobalAlloc") ? 1 : 0;
+    }
+    char* GlobalLock(GlobalHandle /*block*/) override { return Works("GlobalLock") ? Block.data() : nullptr; }
+    void lstrcpy(char* address, const std::string& text) override {
+        std::copy_n(text.c_str(), text.size() + 1, address);
+    }
+    std::int32_t GlobalUnlock(GlobalHandle /*block*/) override { return Works("GlobalUnlock") ? 0 : 1; }
+    void GlobalFree(GlobalHandle /*block*/) override { Works("GlobalFree"); }
+    std::int32_t OpenClipboard() override { return Works("OpenClipboard") ? 1 : 0; }
+    void EmptyClipboard() override {
+        Works("EmptyClipboard");
+        Content.clear();
+    }
+    GlobalHandle SetClipboardData(std::uint32_t format, GlobalHandle block) override {
+        Calls += std::to_string(format) + " ";
+        if (!Works("SetClipboardData"))
+            return 0;
+        Content = Block.data();
+        return block;
+    }
+    std::int32_t CloseClipboard() override { return Works("CloseClipboard") ? 1 : 0; }
 };
 
 /// Keys with values by "path|name".
-class MemoryRegistry : public Registry {
-  public:
+struct MemoryRegistry : Registry {
     struct Value {
         std::uint32_t type = 0;
         std::string bytes{};
     };
     std::map<std::string, Value> Values;
-    std::vector<std::string> Asked; ///< "path|name" of each query
+    Texts Asked; ///< "path|name" of each query
     int Open = 0;
 
     std::int32_t RegOpenKeyExA(std::uint32_t root, const std::string& path, std::uint32_t /*options*/,
                                std::uint32_t /*access*/, RegistryKey& key) override {
-        const bool known = root == HKEY_LOCAL_MACHINE_ROOT &&
-                           std::any_of(Values.begin(), Values.end(), [&](const auto& entry) {
-                               return entry.first.starts_with(path + "|");
-                           });
-        if (!known)
+        const auto first = Values.lower_bound(path + "|");
+        if (root != HKEY_LOCAL_MACHINE_ROOT || first == Values.end() || !first->first.starts_with(path + "|"))
             return 2;
         paths_.push_back(path);
         key = paths_.size();
@@ -90,17 +142,14 @@ class MemoryRegistry : public Registry {
     }
     std::int32_t RegQueryValueExA(RegistryKey key, const std::string& name, std::uint32_t& type,
                                   std::span<char> buffer, std::uint32_t& size) override {
-        const std::string where = paths_.at(key - 1) + "|" + name;
-        Asked.push_back(where);
-        const auto found = Values.find(where);
+        Asked.push_back(paths_.at(key - 1) + "|" + name);
+        const auto found = Values.find(Asked.back());
         if (found == Values.end())
             return 2;
         type = found->second.type;
         size = static_cast<std::uint32_t>(found->second.bytes.size());
-        if (found->second.bytes.size() > buffer.size())
-            return 234;
-        std::copy(found->second.bytes.begin(), found->second.bytes.end(), buffer.begin());
-        return 0;
+        found->second.bytes.copy(buffer.data(), buffer.size());
+        return size > buffer.size() ? 234 : 0;
     }
     std::int32_t RegCloseKey(RegistryKey /*key*/) override {
         --Open;
@@ -108,20 +157,60 @@ class MemoryRegistry : public Registry {
     }
 
   private:
-    std::vector<std::string> paths_;
+    Texts paths_;
 };
 
-/// A page of 256 characters: those of Windows-1252.
+/// A file prompt that answers each show with the next of `Answers`: a path chosen, or nothing for a cancel.
+/// With no answer left it cancels.
+struct ScriptedDialog : CommonDialog, Faults {
+    std::deque<std::optional<std::string>> Answers;
+    Texts Shown;                      ///< "save flags, name|title|filter" or "open ..." of each show
+    std::function<void()> WhileShown; ///< runs while the prompt is open
+
+    void ShowOpen() override { Answer("open "); }
+    void ShowSave() override { Answer("save "); }
+
+  private:
+    void Answer(const std::string& kind) {
+        Shown.push_back(kind + std::to_string(Flags) + ", " + FileName + "|" + DialogTitle + "|" + Filter);
+        if (WhileShown)
+            WhileShown();
+        Try(kind);
+        const auto answer = Answers.empty() ? std::nullopt : Answers.front();
+        if (!Answers.empty())
+            Answers.pop_front();
+        if (!answer)
+            throw Failure("Cancel was selected.", failure_number::Cancelled, "CommonDialog");
+        FileName = *answer;
+    }
+};
+
+/// A grid that holds the names of the groups and has no current cell.
+struct MemoryGrid : MSFlexGrid {
+    explicit MemoryGrid(Texts names = {"Group 1", "Group 2"}) : Names(std::move(names)) {}
+
+    [[nodiscard]] std::int16_t Rows() const override { return static_cast<std::int16_t>(Names.size() + 1); }
+    [[nodiscard]] std::string TextMatrix(std::int16_t row, std::int16_t col) const override {
+        return col == 1 ? Names.at(static_cast<std::size_t>(row - 1)) : "a number";
+    }
+    void SetRows(std::int16_t /*rows*/) override {}
+    [[nodiscard]] std::int16_t Row() const override { return 0; }
+    void SetRow(std::int16_t /*row*/) override {}
+    [[nodiscard]] std::int16_t Col() const override { return 0; }
+    void SetCol(std::int16_t /*col*/) override {}
+    [[nodiscard]] std::string Text() const override { return ""; }
+    void SetText(const std::string& /*text*/) override {}
+    void OnRowColChange(std::function<void()> /*handler*/) override {}
+
+    Texts Names;
+};
+
+/// The characters of numbers 0 to 255, but for the euro at its place.
 inline const CodePage& WesternPage() {
     static const CodePage page = [] {
         std::array<char32_t, 256> characters{};
-        for (std::size_t b = 0; b < characters.size(); ++b)
-            characters[b] = static_cast<char32_t>(b);
-        constexpr std::array<char32_t, 32> upper = {
-            0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-            0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-            0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
-        std::copy(upper.begin(), upper.end(), characters.begin() + 0x80);
+        std::iota(characters.begin(), characters.end(), U'\0');
+        characters[0x80] = U'\u20AC';
         return CodePage("Windows-1252", characters);
     }();
     return page;

@@ -446,7 +446,8 @@ TEST_F(MainFormTest, SettingsAreLoadedAndRefusedThroughThePrompt) {
     EXPECT_EQ(GroupNames(), (Names{"D", "E"}));
     for (const std::string item : {"mnuFile_0", "mnuFile_1", "mnuView_0"})
         Item(item).trigger(); // each cancelled
-    EXPECT_EQ(dialog.Shown.back().title, "Select the random file");
+    EXPECT_EQ(dialog.Shown.back(), "open 2, settings|Select the random file|htm file (*.htm)|*.htm|Text file "
+                                   "(*.txt)|*.txt");
     EXPECT_EQ(GroupNames(), (Names{"D", "E"}));
 }
 
@@ -475,7 +476,7 @@ TEST_F(MainFormTest, ClosesAlsoWhenTheSettingsCannotBeWrittenAndNotWhileAtWork) 
     EXPECT_EQ(desktop.messages.Take(), "please specify the sample size");
     EXPECT_TRUE(form->isVisible());
     desktop.messages.WhileShown = {};
-    desktop.files.Closed = {SavedPath};
+    desktop.files.Fails = {"Delete", "OpenForOutput"};
     form->close();
     EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: "));
     EXPECT_FALSE(form->isVisible());
@@ -484,19 +485,19 @@ TEST_F(MainFormTest, ClosesAlsoWhenTheSettingsCannotBeWrittenAndNotWhileAtWork) 
 TEST_F(MainFormTest, AFailureThatNoRoutineCatchesIsReportedOnceAndTheProgramGoesOn) {
     desktop.files.Contents[SavedPath] = Saved({"Verum", "Placebo"}, "12", 1);
     Open();
-    desktop.random.Broken = true;
+    desktop.random.Fails = {"UniformNext", "UniformReseed"};
     WithOptions([&] { Click(*form, "cmdGenerate"); }, "cmdOK");
-    EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: no randomness"));
+    EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: cannot UniformReseed"));
     EXPECT_FALSE(desktop.pointer.Busy);
     EXPECT_EQ(desktop.board.Content, "earlier content");
-    desktop.random.Broken = false;
+    desktop.random.Fails.clear();
 
     Load(Saved({"Verum", "Placebo"}, "12", 0, 0)); // codes that need no draws
     EXPECT_EQ(desktop.messages.Take(), "Settings were loaded successfully!");
-    desktop.files.Capacity = 10;
+    desktop.files.Fails = {"Write"};
     dialog.Answers = {"/list.txt"};
     WithOptions([&] { Click(*form, "cmdGenerate"); }, "cmdOK");
-    EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: cannot write"));
+    EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: cannot Write"));
     EXPECT_FALSE(desktop.pointer.Busy);
     EXPECT_EQ(desktop.shell.Started, Names{});
 

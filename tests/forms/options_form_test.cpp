@@ -425,7 +425,7 @@ TEST_F(OptionsFormTest, ShownLevelIsWhatIsStored) {
 }
 
 TEST_F(OptionsFormTest, FailureBehindOKIsReportedOnceAndTheWindowStays) {
-    desktop.random.Broken = true;
+    desktop.random.Fails = {"UniformNext"};
     settings.prBlockOption = RandomBlockSize;
     Open([&](QDialog& window) {
         Click(window, "cmdOK");

@@ -77,17 +77,17 @@ TEST_F(OutputFormTest, SaveCopiesTheFileAndNotWhatWasTyped) {
         EXPECT_EQ(desktop.messages.Take(), "Only text files allowed!");
         Click(window, "SaveCmd");
         Click(window, "SaveCmd");
-        desktop.files.CopyFails = true;
+        desktop.files.Fails = {"Copy"};
         CMDialog.Answers = {"/home/c.txt"};
         Click(window, "SaveCmd");
-        EXPECT_NE(desktop.messages.Take().find("cannot copy"), std::string::npos);
+        EXPECT_NE(desktop.messages.Take().find("cannot Copy"), std::string::npos);
         ASSERT_TRUE(window.isVisible());
         window.close();
     });
     EXPECT_EQ(desktop.files.Contents,
               (std::map<std::string, std::string>{{"/home/a.txt", list}, {"/home/b.TXT", list}}));
-    const auto& first = CMDialog.Shown.front();
-    EXPECT_EQ(first.title + first.filter + first.fileName, "Save to File As...Text file (*.txt)|*.txtoutput");
+    for (const std::string& shown : CMDialog.Shown)
+        EXPECT_EQ(shown, "save 2, output|Save to File As...|Text file (*.txt)|*.txt");
     EXPECT_EQ(CMDialog.DefaultExt, "htm");
 }
 

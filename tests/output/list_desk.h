@@ -1,18 +1,16 @@
-// A desktop with a list to be reported: groups, blocks, codes, and the arrangement that the shuffle leaves.
+// A desktop with a list to be generated: group names, blocks, and the arrangement that the shuffle leaves.
 #pragma once
 
 #include "fakes/desktop.h"
+#include "output/glb_util.h"
 #include "output/output_channels.h"
 #include "output/output_document.h"
 
-#include <cstdint>
-#include <functional>
-#include <string>
-#include <vector>
+#include <tuple>
 
 namespace orvane {
 
-using Texts = std::vector<std::string>;
+using namespace fakes;
 
 /// The output window without its controls: shows the file, does what WhileOpen says, closes.
 struct ShownWindow : OutputWindow, OutputText {
@@ -37,20 +35,25 @@ struct ShownWindow : OutputWindow, OutputText {
     std::function<void()> WhileOpen;
 };
 
-struct ListDesk {
-    explicit ListDesk(std::int16_t columns = 3, const Texts& names = {"Group 1", "Group 2"},
-                      const std::vector<std::int16_t>& blocks = {6, 4}, std::size_t codeLength = 3) {
-        settings.Columns = columns;
+/// The main window and the options window without their controls.
+struct ListDesk : OptionsWindow, SampleSizeBox {
+    explicit ListDesk(int columns = 3, const Texts& names = {"Group 1", "Group 2"},
+                      const std::vector<std::int16_t>& blocks = {6, 4}, std::int16_t codeLength = 3)
+        : grid(names), Blocks(blocks) {
+        settings.Columns = static_cast<std::int16_t>(columns);
         settings.NumberOfGroups = static_cast<std::int16_t>(names.size());
-        grid.Name(names);
-        for (const std::int16_t size : blocks) {
-            results.BlockSizes.push_back(size);
-            for (int position = 0; position < size; ++position) {
-                const std::string number = std::to_string(results.CodeArr.size() + 1);
-                results.CodeArr.push_back(std::string(codeLength - number.size(), '0') + number);
-            }
-        }
+        settings.SampleSize = 10;
+        settings.CodeAlphaNum = Numeric;
+        settings.CodeLength = codeLength;
     }
+    /// Fixes the blocks, as a press of "OK" or "Cancel" does.
+    void ShowModal() override {
+        settings.SelectedCmd = Closed;
+        results.BlockSizes = {0};
+        results.BlockSizes.insert(results.BlockSizes.end(), Blocks.begin(), Blocks.end());
+    }
+    [[nodiscard]] std::string Text() const override { return SampleSizeText; }
+    void SetFocus() override { ++Focused; }
 
     /// The first exchanges of the shuffle of a block of `size`, two positions each; the others change
     /// nothing. Without any, the groups stay as they were dealt: 1, 2, 1, 2 and so on.
@@ -58,35 +61,45 @@ struct ListDesk {
         auto& values = desktop.random.Values;
         const std::size_t end = values.size() + static_cast<std::size_t>(20 * size * size);
         for (const int position : positions)
-            values.push_back(fakes::UniformFor(1, size, position));
+            values.push_back(UniformFor(1, size, position));
         values.resize(end, 0);
     }
+    void Generate(std::int32_t channel) {
+        settings.OutputOption = channel;
+        generation.cmdGenerate_Click();
+    }
 
-    /// Each of these runs a report and gives what stands at its place then.
-    std::string ToFile(const std::string& path) {
+    /// Each of these generates a list and gives what stands at its place then.
+    std::string ToTheFile(const std::string& path) {
         dialog.Answers = {path};
-        channels.OutputToFile();
+        Generate(ToFile);
         return desktop.files.Contents.contains(path) ? desktop.files.Contents[path] : "no file";
     }
-    std::string ToWindow() {
-        channels.OutputToWindow();
+    std::string ToTheWindow() {
+        Generate(ToWindow);
         return window.Text;
     }
-    std::string ToBoard() {
-        channels.OutputToClipBoard();
+    std::string ToTheBoard() {
+        Generate(ToClipboard);
         return desktop.board.Content;
     }
 
-    fakes::FakeDesktop desktop;
+    FakeDesktop desktop;
     ListSettings settings;
     ListResults results;
-    fakes::MemoryGrid grid;
+    MemoryGrid grid;
+    std::vector<std::int16_t> Blocks;
+    std::int16_t Closed = ClosedByOK;
+    std::string SampleSizeText;
+    int Focused = 0;
     SequenceBuilder builder{settings, results, grid, desktop.random, desktop.clock, desktop.messages};
     ReportContext context{settings, results, grid, builder, desktop.platform, 77};
-    fakes::ScriptedDialog dialog;
-    fakes::ScriptedDialog windowDialog;
+    ScriptedDialog dialog;
+    ScriptedDialog windowDialog;
     ShownWindow window{desktop.platform, windowDialog};
     ListChannels channels{context, dialog, window};
+    Generation generation{settings,         results,         *this,          channels,     *this,
+                          desktop.messages, desktop.pointer, desktop.random, desktop.clock};
 };
 
 inline const std::string BoardSuccess = "Data were copied into clipboard successfuly!";

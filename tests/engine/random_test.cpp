@@ -1,0 +1,235 @@
+// The cipher, the values made from it, the draws from ranges and the shuffle.
+
+#include "engine/block_shuffle.h"
+#include "engine/list_settings.h"
+#include "engine/random_draws.h"
+#include "engine/random_source.h"
+#include "fakes/random.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+#include <tuple>
+
+namespace orvane {
+namespace {
+
+using namespace fakes;
+
+ChaChaWords Input(std::uint32_t keyStart, std::uint32_t keyStep, std::array<std::uint32_t, 4> last) {
+    ChaChaWords words{};
+    std::copy(ChaChaConstants.begin(), ChaChaConstants.end(), words.begin());
+    for (std::uint32_t i = 0; i < ChaChaKeyWords; ++i)
+        words.at(ChaChaKeyAt + i) = keyStart + keyStep * i;
+    std::copy(last.begin(), last.end(), words.begin() + ChaChaCounterAt);
+    return words;
+}
+
+TEST(ChaCha, TwentyRoundsGiveThePublishedBlocks) {
+    EXPECT_EQ(ChaChaBlock<20>(Input(0x03020100, 0x04040404, {1, 0x09000000, 0x4a000000, 0})),
+              (ChaChaWords{0xe4e7f110, 0x15593bd1, 0x1fdd0f50, 0xc47120a3, 0xc7f4d1c7, 0x0368c033, 0x9aaa2204,
+                           0x4e6cd4c3, 0x466482d2, 0x09aa9f07, 0x05d7c214, 0xa2028bd9, 0xd19c12b5, 0xb94e16de,
+                           0xe883d0cb, 0x4e3c50a2}));
+    EXPECT_EQ(ChaChaBlock<20>(Input(0, 0, {1, 0, 0, 0})),
+              (ChaChaWords{0xbee7079f, 0x7a385155, 0x7c97ba98, 0x0d082d73, 0xa0290fcb, 0x6965e348, 0x3e53c612,
+                           0xed7aee32, 0x7621b729, 0x434ee69c, 0xb03371d5, 0xd539d874, 0x281fed31, 0x45fb0a51,
+                           0x1f0ae1ac, 0x6f4d794b}));
+}
+
+// The expected values come from an implementation of the cipher of its own, apart from this program.
+TEST(RandomSource, TheStreamIsThatOfItsKeyAndReseeds) {
+    using Listed = std::vector<std::pair<std::size_t, std::uint32_t>>; // index and 24 bits of a value
+    const auto expectBits = [](const std::vector<float>& values, const Listed& listed) {
+        for (const auto& [index, bits] : listed)
+            EXPECT_EQ(static_cast<std::uint32_t>(values.at(index) * 0x1p24F), bits) << index;
+    };
+    SetEntropy entropy;
+    RandomSource source(entropy);
+    std::vector<float> values(1400);
+    source.UniformFill(values);
+    expectBits(values, {{0, 0x8fb215},
+                        {1, 0x0f6e1a},
+                        {31, 0xbda559},
+                        {32, 0x6aab12},
+                        {127, 0x725a86},
+                        {128, 0x3312c5},
+                        {640, 0xd656a2},
+                        {671, 0x727780},
+                        {672, 0x880ebf},
+                        {1399, 0x4815de}});
+    source.UniformReseed(43200.5F);
+    source.UniformFill(std::span(values).first(800));
+    expectBits(values, {{0, 0xef6694},
+                        {1, 0xdec3a9},
+                        {2, 0x5e8c96},
+                        {3, 0x49abb6},
+                        {4, 0x94bcaf},
+                        {5, 0xbcd419},
+                        {6, 0x6cec0a},
+                        {7, 0x19f824},
+                        {8, 0x85f9cc},
+                        {9, 0xe665d2},
+                        {10, 0xedb6d2},
+                        {11, 0xca5f8b},
+                        {681, 0x4acbf1},
+                        {682, 0x53f8f7},
+                        {799, 0x8ad1da}});
+    source.UniformReseed(43200.5F);
+    expectBits({source.UniformNext()}, {{0, 0x06ee93}});
+}
+
+/// Takes values in portions, each portion singly when it is below 5, with a reseed before every portion of 7.
+std::vector<float> Taken(const VectorKernels& kernels, const std::vector<std::size_t>& portions) {
+    SetEntropy entropy;
+    RandomSource source(entropy, kernels);
+    std::vector<float> taken;
+    for (const std::size_t portion : portions) {
+        if (portion == 7)
+            source.UniformReseed(1);
+        taken.resize(taken.size() + portion);
+        const auto next = std::span(taken).last(portion);
+        if (portion < 5)
+            std::generate(next.begin(), next.end(), [&] { return source.UniformNext(); });
+        else
+            source.UniformFill(next);
+    }
+    return taken;
+}
+
+TEST(RandomSource, HowTheValuesAreTakenChangesNone) {
+    const std::vector<std::vector<std::size_t>> sameTotal[] = {
+        {{2000}, {1, 1999}, {672, 1328}, {671, 3, 1326}, {1344, 1, 1, 654}, {1, 2, 3, 4, 5, 1985}},
+        {{7, 1300, 7, 30}, {7, 1, 2, 1297, 7, 1, 1, 28}, {7, 3, 672, 625, 7, 4, 4, 22}},
+    };
+    for (const auto& ways : sameTotal)
+        for (const VectorKernels& kernels : RunnableKernels())
+            for (const auto& way : ways)
+                EXPECT_EQ(Taken(kernels, way), Taken(RunnableKernels().front(), ways[0])) << kernels.Name;
+}
+
+TEST(RandomSource, WithoutEntropyTheFirstUseFailsAndTheNextAsksAgain) {
+    for (const bool reseeds : {false, true}) {
+        SetEntropy entropy;
+        entropy.Fails = {"Fill"};
+        RandomSource source(entropy);
+        const auto use = [&] { reseeds ? source.UniformReseed(1) : static_cast<void>(source.UniformNext()); };
+        EXPECT_THROW(use(), Failure);
+        EXPECT_THROW(use(), Failure);
+        entropy.Fails.clear();
+        EXPECT_EQ(source.UniformNext(), Taken(BestKernels(), {1}).front());
+        entropy.Fails = {"Fill"};
+        EXPECT_NO_THROW(use()) << "one key is enough";
+    }
+}
+
+TEST(RandomSource, AReseedOverwritesTheValuesThatWerePrepared) {
+    SetEntropy entropy;
+    RandomSource source(entropy);
+    source.UniformNext();
+    const auto memory = std::as_bytes(std::span(&source, 1));
+    const std::vector<float> values = Taken(BestKernels(), {BatchValues});
+    const auto prepared = std::as_bytes(std::span(values).subspan(100, 2));
+    const auto found = [&] {
+        return std::search(memory.begin(), memory.end(), prepared.begin(), prepared.end()) != memory.end();
+    };
+    EXPECT_TRUE(found());
+    source.UniformReseed(1);
+    EXPECT_FALSE(found());
+}
+
+TEST(RandomDraws, RoundToNearestAndTiesToEven) {
+    constexpr float Largest = 0x1.fffffep-1F;
+    const std::vector<std::tuple<int, int, float, int>> rows = {{1, 4, 0, 1},
+                                                                {1, 4, 0.1F, 1},
+                                                                {1, 4, 0.25F, 2},
+                                                                {1, 4, Largest, 4},
+                                                                {1, 1, 0.7F, 1},
+                                                                {0, 1, 0.5F, 0},
+                                                                {0, 3, 0.5F, 2},
+                                                                {0, 1, 0.50001F, 1},
+                                                                {-3, 3, 0.25F, -1},
+                                                                {5, 2, 0.5F, 3},
+                                                                {0, 32767, Largest, 32767},
+                                                                {-32768, -1, Largest, -1},
+                                                                {0, 32767, 0.5F, 16384}};
+    for (const auto& [Lo, Hi, U, drawn] : rows) {
+        ListedSource source({U});
+        EXPECT_EQ(DrawRandomInt(source, static_cast<std::int16_t>(Lo), static_cast<std::int16_t>(Hi)), drawn)
+            << Lo << " " << Hi << " " << U;
+        EXPECT_EQ(source.Consumed, 1U);
+    }
+    ListedSource source;
+    EXPECT_EQ(FailureOf([&] { DrawRandomInt(source, -1, 32767); }).Number, failure_number::Overflow);
+    EXPECT_EQ(FailureOf([&] { DrawRandomInt(source, 32767, -2); }).Number, failure_number::Overflow);
+}
+
+TEST(RandomDraws, InBulkEveryVersionEqualsTheSingleDraw) {
+    constexpr std::int32_t all = 1 << 24; // a value is a multiple of 1 / all
+    for (std::int32_t W = 0; W <= 32767; W += W < LargestBlock ? 1 : 733) {
+        std::vector<float> hard{0, 0x1p-24F, 0.5F, 0x1.fffffcp-1F, 0x1.fffffep-1F};
+        for (const std::int64_t tie : {0, 1, W / 3, W / 2, W - 2, W - 1})
+            for (const int beside : {-1, 0, 1})
+                if (const auto k = (2 * tie + 1) * (all / 2) / std::max(W, 1) + beside; k >= 0 && k < all)
+                    hard.push_back(static_cast<float>(k) * 0x1p-24F);
+        while (hard.size() < 70) // enough to fill the vectors of every version
+            hard.push_back(hard[hard.size() / 2]);
+        const auto Lo = static_cast<std::int16_t>(W < 32767 ? 1 : 0);
+        const auto Hi = static_cast<std::int16_t>(W + Lo);
+        ListedSource single(hard);
+        std::vector<std::int16_t> expected(hard.size());
+        std::generate(expected.begin(), expected.end(), [&] { return DrawRandomInt(single, Lo, Hi); });
+        for (const VectorKernels& kernels : RunnableKernels()) {
+            ListedSource source(hard);
+            std::vector<std::int16_t> bulk(hard.size());
+            DrawRandomInts(source, Lo, Hi, bulk, kernels);
+            ASSERT_EQ(bulk, expected) << kernels.Name << " 1 to " << Hi;
+        }
+    }
+}
+
+using Groups = std::vector<std::uint8_t>;
+
+TEST(BlockShuffle, ExchangesTheFirstDrawWithTheSecond) {
+    // Of three positions, 0 draws the first, 0.5 the second, 0.9 the third. All later draws are position 1.
+    const std::vector<std::pair<std::vector<float>, Groups>> rows = {{{0, 0.9F}, {3, 2, 1}},
+                                                                     {{0, 0.5F, 0.5F, 0.9F}, {2, 3, 1}},
+                                                                     {{0.5F, 0.9F, 0, 0.5F}, {3, 1, 2}},
+                                                                     {{0.5F, 0.5F}, {1, 2, 3}}};
+    for (const auto& [values, shuffled] : rows) {
+        ListedSource source(values);
+        Groups groups{1, 2, 3};
+        ShuffleBlock(source, groups);
+        EXPECT_EQ(groups, shuffled);
+        EXPECT_EQ(source.Consumed, 180U);
+    }
+    ListedSource source({0, 0.9F});
+    Groups groups = DealGroups(LargestBlock + 1, 2);
+    EXPECT_EQ(FailureOf([&] { ShuffleBlock(source, groups); }).Number, failure_number::Overflow);
+    EXPECT_EQ(groups, DealGroups(groups.size(), 2));
+}
+
+TEST(BlockShuffle, EqualsSingleExchangesAndConsumesTwentyTimesTheSquare) {
+    for (const VectorKernels& kernels : RunnableKernels())
+        for (const std::size_t N : {0U, 1U, 2U, 3U, 8U, 9U, 31U, 64U, 65U, 256U}) {
+            SetEntropy entropy;
+            SetEntropy sameEntropy;
+            RandomSource source(entropy, kernels);
+            RandomSource single(sameEntropy);
+            Groups groups(N);
+            std::iota(groups.begin(), groups.end(), std::uint8_t{0});
+            Groups expected = groups;
+            ShuffleBlock(source, groups, kernels);
+            const auto position = [&] {
+                return static_cast<std::size_t>(DrawRandomInt(single, 1, static_cast<std::int16_t>(N))) - 1;
+            };
+            for (std::size_t i = 0; i < 10 * N * N; ++i) {
+                const std::size_t A = position();
+                std::swap(expected[A], expected[position()]);
+            }
+            EXPECT_EQ(groups, expected) << kernels.Name << " " << N;
+            EXPECT_EQ(source.UniformNext(), single.UniformNext()) << kernels.Name << " " << N;
+        }
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,198 @@
+// What lists and settings lean on: text files, the file behind the output window, reports of failures, the
+// clipboard.
+
+#include "list_desk.h"
+#include "output/text_file.h"
+
+#include <new>
+#include <stdexcept>
+
+namespace orvane {
+namespace {
+
+TEST(TextFileReader, EndsLinesAtCrAndCrLfAlone) {
+    const std::string end = std::to_string(failure_number::EndOfFile);
+    const std::string chunk(std::size_t{1} << 16U, 'x');
+    const std::string almost = chunk.substr(1);
+    const std::vector<std::pair<std::string, Texts>> table = {
+        {"", {end}},
+        {"a\r\nb\r\n", {"a", "b", end}},
+        {"a\nb\r\n\n", {"a\nb", "\n", end}},
+        {"a\r\r\nb\r", {"a", "", "b", end}},
+        {"\xE9\x80\r\n", {"é€", end}},
+        {almost + "\r\ny", {almost, "y", end}}, // the pair on both sides of a chunk's end
+        {almost + "\r", {almost, end}},
+        {chunk + "\r" + almost, {chunk, almost, end}},
+        {chunk + "x\r", {std::to_string(failure_number::TooLarge)}},
+    };
+    for (const auto& [bytes, expected] : table) {
+        MemoryFiles files;
+        files.Contents["f"] = bytes;
+        TextFileReader reader(files.OpenForInput("f"), WesternPage(), "f");
+        Texts lines;
+        Failure failure = FailureOf([&] {
+            for (;;)
+                lines.push_back(reader.ReadLine());
+        });
+        EXPECT_EQ(reader.AtEnd(), failure.Number == failure_number::EndOfFile);
+        lines.push_back(std::to_string(failure.Number));
+        EXPECT_EQ(lines, expected) << bytes.substr(0, 20) << " of " << bytes.size();
+    }
+}
+
+TEST(TextFileWriter, WritesEverythingOnceWhateverFails) {
+    const std::string chunk((std::size_t{1} << 16U) - 2, 'x');
+    MemoryFiles files;
+    std::string& bytes = files.Contents["f"];
+    {
+        TextFileWriter writer(files.OpenForOutput("f"), WesternPage(), Unmappable::Fail);
+        writer.WriteLine(chunk.substr(1));
+        EXPECT_EQ(bytes, "") << "the buffer is not full";
+        writer.Write("é");
+        EXPECT_EQ(bytes, chunk.substr(1) + "\r\n\xE9");
+        writer.Write("€");
+        EXPECT_THROW(writer.Write("≥"), Failure); // the page has no such character
+    }
+    EXPECT_EQ(bytes, chunk.substr(1) + "\r\n\xE9\x80");
+    {
+        TextFileWriter writer(files.OpenForOutput("f"), WesternPage(), Unmappable::Fail);
+        writer.Write("abcd");
+        files.Fails = {"Write"};
+        EXPECT_THROW(writer.Close(), Failure);
+        files.Fails.clear();
+    }
+    EXPECT_EQ(bytes, "ab");
+    EXPECT_EQ(files.Open, 0);
+}
+
+TEST(OutputDocument, SavesCopiesOfTheFileAndDeletesItAtTheClose) {
+    ListDesk desk;
+    auto& files = desk.desktop.files;
+    const auto save = [&] {
+        desk.window.Document.SaveCmd_Click();
+        return desk.desktop.messages.TakeAll();
+    };
+    desk.windowDialog.Answers = {"/x/a.htm", "/x/b", "/x/a.TXT", std::nullopt, "/x/b.txt"};
+    desk.window.WhileOpen = [&] {
+        EXPECT_EQ(save(), Texts(2, "Only text files allowed!"));
+        EXPECT_EQ(save(), Texts{});
+        files.Fails = {"Copy", "Delete"};
+        EXPECT_EQ(save(), Texts{Report("cannot Copy", 5, "a fake")});
+        desk.windowDialog.Fails = {"save "};
+        EXPECT_EQ(save(), Texts{Report("cannot save ", 5, "a fake")});
+    };
+    const std::string text = desk.ToTheWindow(); // a file that cannot be deleted stays, and nobody is told
+    const std::map<std::string, std::string> left = {{"/x/a.TXT", text}, {"/program/00000000.tmp", text}};
+    EXPECT_EQ(files.Contents, left);
+    EXPECT_EQ(desk.windowDialog.DefaultExt, "htm");
+    for (const auto& look : desk.windowDialog.Shown)
+        EXPECT_EQ(look, "save 2, output|Save to File As...|Text file (*.txt)|*.txt");
+
+    files = {};
+    desk.window.WhileOpen = {};
+    desk.ToTheWindow();
+    EXPECT_TRUE(files.Contents.empty());
+}
+
+TEST(OutputDocument, ShowsWhatItCanReadOfAFile) {
+    const std::string chunk = std::string((std::size_t{1} << 16U) - 2, 'x') + "\r\n";
+    std::string largest;
+    while (largest.size() < OutputDocument::LargestFile)
+        largest += chunk;
+    ListDesk desk;
+    desk.window.OutputFileName("/x/f.txt", false);
+    const auto show = [&](const std::string& bytes) {
+        desk.desktop.pointer.Calls.clear();
+        desk.desktop.files.Contents["/x/f.txt"] = bytes;
+        desk.window.ShowModal();
+        EXPECT_EQ(desk.desktop.files.Open, 0);
+        return desk.desktop.messages.Take() + desk.desktop.pointer.Calls;
+    };
+    EXPECT_EQ(show("caf\xE9\rb\nb\r\n\r\nlast"), "N");
+    EXPECT_EQ(desk.window.Text, "café\r\nb\nb\r\n\r\nlast\r\n");
+    EXPECT_EQ(show(largest), "N");
+    EXPECT_EQ(show(largest + "more"),
+              Report("The file /x/f.txt is too large to be shown as a whole", 20012, "OutputFrm"));
+    EXPECT_EQ(desk.window.Text.size(), OutputDocument::LargestFile);
+    desk.desktop.files.Fails = {"Read"};
+    desk.desktop.files.Before = 1;
+    EXPECT_EQ(show(chunk + "more"), Report("cannot Read", 5, "a fake"));
+    EXPECT_EQ(desk.window.Text, chunk) << "a line that was read is shown";
+}
+
+TEST(WithFailurePath, CleansUpThenReportsAnyExceptionOnce) {
+    const auto cancel = [] {
+        throw Failure("Cancel was selected.", failure_number::Cancelled, "CommonDialog");
+    };
+    const std::vector<std::tuple<std::function<void()>, bool, std::string>> table = {
+        {cancel, true, ""},
+        {cancel, false, Report("Cancel was selected.", 32755, "CommonDialog")},
+        {[] { throw Failure("", -7, ""); }, true, Report("", -7, "")},
+        {[] { throw std::bad_alloc(); }, false, Report("Out of memory", 20010, "memory")},
+        {[] { throw std::logic_error("odd"); }, true, Report("odd", 20099, "the program")},
+        {[] { throw 1; }, false, Report("An unknown failure", 20099, "the program")},
+    };
+    for (const auto& [body, quietCancel, report] : table) {
+        ScriptedMessageBox messages;
+        Texts atCleanUp{"not cleaned up"};
+        WithFailurePath(messages, quietCancel, body, [&] { atCleanUp = messages.TakeAll(); });
+        EXPECT_EQ(atCleanUp, Texts{});
+        EXPECT_EQ(messages.Take(), report);
+    }
+}
+
+TEST(OpenInBrowser, SaysWhatWentWrong) {
+    const std::string path = "/a b/ list's.htm";
+    for (const auto& [found, starts, message] :
+         {std::tuple{33, 33, ""},
+          {32, 33, "(!) Browser Not Found: Could not find associated Browser"},
+          {33, 32, "(!) URL Failed: Web Page not Opened"}}) {
+        FakeDesktop desktop;
+        desktop.shell.Found = found;
+        desktop.shell.Starts = starts;
+        OpenInBrowser(path, 5, desktop.shell, desktop.messages);
+        EXPECT_EQ(desktop.messages.Take(), message);
+        EXPECT_EQ(desktop.shell.Started, found == 33 ? Texts{"viewer " + path} : Texts{});
+        EXPECT_EQ(desktop.shell.LastOwner, found == 33 ? 5 : 0);
+    }
+}
+
+TEST(CopyTextToClipboard, GoesDownTheLadder) {
+    const std::string filled = "66*359 GlobalAlloc GlobalLock GlobalUnlock ";
+    const std::string given = filled + "OpenClipboard EmptyClipboard 1 SetClipboardData CloseClipboard ";
+    const std::string notUnlocked = filled + "CloseClipboard GlobalFree ";
+    const std::string noUnlock = "Could not unlock memory location. Copy aborted.";
+    const std::string noClose = "Could not close Clipboard.";
+    const std::vector<std::tuple<std::set<std::string, std::less<>>, std::string, Texts>> table = {
+        {{}, given, {BoardSuccess}},
+        {{"CloseClipboard"}, given, {noClose, BoardSuccess}},
+        {{"GlobalAlloc"},
+         "66*359 GlobalAlloc ",
+         {Report("There is no memory for the 359 bytes of the list", 20010, "GlobalAlloc")}},
+        {{"GlobalLock"},
+         "66*359 GlobalAlloc GlobalLock GlobalFree ",
+         {Report("The memory block for the clipboard cannot be locked", 20010, "GlobalLock")}},
+        {{"GlobalUnlock"}, notUnlocked, {noUnlock}},
+        {{"GlobalUnlock", "CloseClipboard"}, notUnlocked, {noUnlock, noClose}},
+        {{"OpenClipboard"},
+         filled + "OpenClipboard GlobalFree ",
+         {"Could not open the Clipboard. Copy aborted."}},
+        {{"SetClipboardData"},
+         given + "GlobalFree ",
+         {Report("The clipboard did not take the list", 20011, "SetClipboardData")}},
+    };
+    for (const auto& [fails, calls, messages] : table) {
+        ListDesk desk;
+        desk.desktop.board.Fails = fails;
+        desk.ToTheBoard();
+        EXPECT_EQ(desk.desktop.messages.TakeAll(), messages);
+        EXPECT_EQ(desk.desktop.board.Calls, calls);
+    }
+    FakeDesktop desktop;
+    const std::string cutShort("a\0b", 3);
+    EXPECT_THROW(CopyTextToClipboard(cutShort, desktop.board, WesternPage(), desktop.messages), Failure);
+    EXPECT_EQ(desktop.board.Calls, "");
+}
+
+} // namespace
+} // namespace orvane
