@@ -66,13 +66,12 @@ std::int16_t ModelProgram::Draw(std::int16_t Lo, std::int16_t Hi) {
     }
 }
 
-Arrangement ModelProgram::Dealt(int size, int groups) {
+Arrangement ModelProgram::Dealt(int size, int groups) const {
     Arrangement block;
-    for (int i = 0; i < size; ++i) {
-        const int group =
-            fault_ == Fault::UnevenDeal ? static_cast<int>(Next() * static_cast<float>(groups)) : i % groups;
-        block += static_cast<char>('A' + group);
-    }
+    for (int i = 0; i < size; ++i)
+        block += static_cast<char>('A' + i % groups);
+    if (fault_ == Fault::UnevenDeal)
+        block.back() = 'A';
     return block;
 }
 

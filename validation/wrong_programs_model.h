@@ -19,7 +19,7 @@ enum class Fault {
     UniformEnds,     ///< a draw gives its ends as often as the values between them
     TruncatedDraws,  ///< a draw is cut off instead of rounded
     FewExchanges,    ///< a block of N subjects gets N exchanges
-    UnevenDeal,      ///< each subject gets a group of its own draw
+    UnevenDeal,      ///< the last subject is dealt the first group
     RepeatedList,    ///< the source starts from the same key for every block
     FewKeys,         ///< the source starts from one of 256 keys for every block
     ContinuedBlocks, ///< a block starts from the block before and gets few exchanges
@@ -43,7 +43,7 @@ class ModelProgram : public DrawingProgram {
     void Reseed();
     /// For the faults of keys: a new source.
     void StartAnew();
-    Arrangement Dealt(int size, int groups);
+    [[nodiscard]] Arrangement Dealt(int size, int groups) const;
     void Exchange(Arrangement& block, int times);
     std::string Code(std::int32_t alphabet, int length);
 
