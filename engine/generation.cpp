@@ -5,11 +5,6 @@
 #include "engine/text.h"
 
 namespace orvane {
-namespace {
-
-constexpr std::int16_t GenerateItem = 2;
-
-} // namespace
 
 void RefuseSampleSize(SampleSizeBox& box, MessageBox& messages) {
     messages.Show(IsAboveSampleSizes(box.Text()) ? "the sample size can be at most 32767"

@@ -42,6 +42,9 @@ class SampleSizeBox {
 /// Says in a message why the sample size cannot be used and puts the focus on its box.
 void RefuseSampleSize(SampleSizeBox& box, MessageBox& messages);
 
+/// The items of the "Sequence" menu: the Index of mnuSequence_Click.
+enum SequenceItems : std::int16_t { OutputItem = 0, SeparatorItem = 1, GenerateItem = 2 };
+
 class Generation {
   public:
     Generation(const ListSettings& settings, ListResults& results, OptionsWindow& options,
@@ -51,7 +54,7 @@ class Generation {
           sampleSize_(sampleSize), messages_(messages), pointer_(pointer), random_(random), clock_(clock) {}
 
     void cmdGenerate_Click();
-    /// Index is the item of the "Sequence" menu: 0 "Output", 1 the separator, 2 "Generate".
+    /// Index is one of SequenceItems; all but "Generate" only show the busy pointer and the normal one.
     void mnuSequence_Click(std::int16_t Index);
     void GenerateRandomList();
 

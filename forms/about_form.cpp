@@ -1,6 +1,7 @@
 #include "forms/about_form.h"
 
 #include "forms/application_icon.h"
+#include "forms/form_look.h"
 #include "forms/system_info.h"
 #include "platform/application.h"
 #include "ui_about_form.h"
@@ -9,7 +10,6 @@ namespace orvane {
 
 namespace {
 
-constexpr int FontPixels = 11;
 constexpr int IconPixels = 32;
 constexpr QPoint ScreenPlace(156, 129);
 
@@ -19,10 +19,8 @@ AboutForm::AboutForm(Platform& desktop, QWidget* owner)
     : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                          Qt::WindowCloseButtonHint),
       desktop_(desktop), guard_(desktop.Messages, desktop.Pointer), ui_(std::make_unique<Ui::frmAbout>()) {
+    UseFormFont(*this);
     ui_->setupUi(this);
-    QFont small = font();
-    small.setPixelSize(FontPixels);
-    setFont(small);
     setWindowIcon(ApplicationIcon());
     ui_->picIcon->setPixmap(ApplicationIcon().pixmap(IconPixels));
     connect(ui_->cmdOK, &QPushButton::clicked, this, [this] { guard_.Handle([this] { cmdOK_Click(); }); });

@@ -11,65 +11,77 @@
 
 namespace orvane {
 
-/// Every handler of a window runs through its window's guard. The outermost one catches what no routine
-/// caught, shows the normal pointer and reports once. A handler that runs inside another one, because the
-/// program itself moved a control, has no guard of its own: its failure comes out of the statement that moved
-/// the control. As no exception may cross the toolkit's signal code, it is kept on the way and thrown again
-/// behind the toolkit's call, so program code moves its controls inside Calling.
+/// What becomes of a failure in the handlers of a window:
+///
+/// - The user causes an event: its handler runs in Handle. A failure that no routine catches is reported
+/// once,
+///   under the normal pointer, and the program goes on.
+/// - The program itself moves a control: it does so in Calling, and the handlers run inside that statement.
+///   Their failure is thrown by Calling, so that it belongs to the routine that moved the control.
+///
+/// Between a handler and Calling lies the toolkit, which no exception may cross. So Handle keeps an exception
+/// of an inner handler, and Calling throws it.
 class EventGuard {
   public:
     EventGuard(MessageBox& messages, MousePointer& pointer) : messages_(messages), pointer_(pointer) {}
 
-    /// Runs a handler. Never throws: signals and virtual event functions of the toolkit call it.
+    /// Runs a handler. Never throws.
     template <std::invocable Handler>
     void Handle(Handler&& handler) noexcept {
         const bool outermost = depth_ == 0;
-        ++depth_;
         try {
+            const Level level(depth_);
             handler();
-            Rethrow();
+            ThrowKept();
         } catch (...) {
-            kept_ = std::current_exception();
+            outermost ? ReportCaught() : Keep();
         }
-        --depth_;
-        if (outermost && kept_)
-            Report();
     }
 
     /// Runs a call of the toolkit that may run handlers, and throws what they threw.
     template <std::invocable Call>
     void Calling(Call&& call) {
-        call();
-        Rethrow();
+        {
+            const Level level(depth_);
+            call();
+        }
+        ThrowKept();
     }
 
     /// Whether a handler of this window is running.
     [[nodiscard]] bool IsHandling() const { return depth_ > 0; }
 
+    /// Shows the normal pointer and reports the exception that is being handled.
+    /// Requires: called in a catch block.
+    void ReportCaught() noexcept {
+        try {
+            const Failure failure = CurrentFailure();
+            pointer_.ShowNormal();
+            ReportError(failure, messages_);
+        } catch (...) {
+            // Nothing is left with which to tell the user; the program goes on.
+        }
+    }
+
   private:
-    void Rethrow() {
+    struct Level {
+        explicit Level(int& depth) : depth_(depth) { ++depth_; }
+        ~Level() { --depth_; }
+        Level(const Level&) = delete;
+        Level& operator=(const Level&) = delete;
+        int& depth_;
+    };
+
+    void Keep() noexcept { kept_ = std::current_exception(); }
+    void ThrowKept() {
         if (kept_)
             std::rethrow_exception(std::exchange(kept_, nullptr));
     }
 
-    void Report() noexcept {
-        try {
-            std::rethrow_exception(std::exchange(kept_, nullptr));
-        } catch (...) {
-            try {
-                const Failure failure = CurrentFailure();
-                pointer_.ShowNormal();
-                ReportError(failure, messages_);
-            } catch (...) {
-                // Nothing is left with which to tell the user; the program goes on.
-            }
-        }
-    }
-
     MessageBox& messages_;
     MousePointer& pointer_;
-    int depth_ = 0;
-    std::exception_ptr kept_;
+    int depth_ = 0;           ///< handlers and calls that are running inside one another
+    std::exception_ptr kept_; ///< on its way from an inner handler to Calling
 };
 
 } // namespace orvane

@@ -4,10 +4,12 @@
 #include "platform/failure.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <algorithm>
 #include <utility>
@@ -21,6 +23,7 @@ constexpr int FixedColumnPixels = 64;
 constexpr int CellMargin = 3;
 /// More of a long text would not show, and measuring it would take time.
 constexpr int LongestShown = 500;
+constexpr int LongestTip = 1000;
 constexpr std::int16_t FixedColumn = 0;
 constexpr std::int16_t PickedColumn = 1;
 
@@ -32,7 +35,7 @@ class CellPainter : public QStyledItemDelegate {
                const QModelIndex& index) const override {
         const auto [background, foreground] = Colours(option.palette, index);
         const QString text = index.data().toString().left(LongestShown);
-        const QRect inside = option.rect.adjusted(CellMargin, 0, -CellMargin - 1, -1);
+        const QRect inside = Inside(option.rect);
         painter->save();
         painter->fillRect(option.rect, background);
         painter->setPen(QColor(192, 192, 192));
@@ -45,7 +48,25 @@ class CellPainter : public QStyledItemDelegate {
         painter->restore();
     }
 
+    /// The whole text of a cell that shows only its start.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override {
+        if (event->type() != QEvent::ToolTip)
+            return QStyledItemDelegate::helpEvent(event, view, option, index);
+        const QString text = index.data().toString();
+        const bool shownInFull = text.size() <= LongestShown &&
+                                 view->fontMetrics().horizontalAdvance(text) <= Inside(option.rect).width();
+        QToolTip::showText(event->globalPos(), shownInFull ? QString() : Plain(text), view);
+        return true;
+    }
+
   private:
+    static QRect Inside(const QRect& cell) { return cell.adjusted(CellMargin, 0, -CellMargin - 1, -1); }
+    /// A tool tip would take a text with tags for a page.
+    static QString Plain(const QString& text) {
+        return QStringLiteral("<p>%1</p>").arg(text.left(LongestTip).toHtmlEscaped());
+    }
+
     struct CellColours {
         QColor background;
         QColor foreground;
@@ -70,6 +91,7 @@ FlexGridWidget::FlexGridWidget(QWidget* parent) : QTableWidget(parent) {
     cells.setPixelSize(FontPixels);
     setFont(cells);
     setItemDelegate(new CellPainter(*this));
+    DrawPlainFrame();
     viewport()->setBackgroundRole(QPalette::Button);
     setShowGrid(false);
     setWordWrap(false);
@@ -85,11 +107,23 @@ FlexGridWidget::FlexGridWidget(QWidget* parent) : QTableWidget(parent) {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2);
 }
 
+/// The frame of the style loses its top and bottom lines where the screen is scaled by a fraction.
+void FlexGridWidget::DrawPlainFrame() {
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, colours.color(QPalette::Dark));
+    setPalette(colours);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+}
+
 void FlexGridWidget::SetRows(std::int16_t rows) {
     if (rows < 1)
         throw Failure("A grid cannot have " + std::to_string(rows) + " rows", failure_number::OutOfRange,
                       "SetRows");
+    const int before = rowCount();
     setRowCount(rows);
+    // Assistive programs read them; the default ones count from 1 in row 0.
+    for (int row = before; row < rows; ++row)
+        setVerticalHeaderItem(row, new QTableWidgetItem(QString::number(row)));
     if (row_ >= rows)
         SelectCell(static_cast<std::int16_t>(rows - 1), col_);
     else

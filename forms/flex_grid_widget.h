@@ -47,6 +47,7 @@ class FlexGridWidget : public QTableWidget, public MSFlexGrid {
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
 
   private:
+    void DrawPlainFrame();
     void SelectCell(std::int16_t row, std::int16_t col);
     void PickRow(int row);
     void ShowCurrentCell();

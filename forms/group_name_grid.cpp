@@ -48,9 +48,13 @@ void GroupNameEditor::GroupNameGrid_RowColChange() {
 void GroupNameEditor::TempTxt_Change() {
     if (EditCol_ == NumberColumn)
         return MoveTypedTextToName();
+    const bool hadTarget = EditRow_ != 0;
     GroupNameGrid_.SetRow(EditRow_);
     GroupNameGrid_.SetCol(EditCol_);
     GroupNameGrid_.SetText(TempTxt_.Text());
+    // The editor shows the name of group 1 now. The next key must replace it, not lengthen it.
+    if (!hadTarget)
+        TempTxt_.SelectIfFocused();
 }
 
 void GroupNameEditor::LoadEditor() {

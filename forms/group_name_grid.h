@@ -16,9 +16,10 @@ class NameBox {
     [[nodiscard]] virtual std::string Text() const = 0;
     /// Runs TempTxt_Change when the text differs.
     virtual void SetText(const std::string& text) = 0;
-    /// Runs TempTxt_GotFocus.
+    /// Its whole text is selected then.
     virtual void SetFocus() = 0;
-    virtual void SelectWholeText() = 0;
+    /// Selects the whole text if the user is in the box.
+    virtual void SelectIfFocused() = 0;
 };
 
 /// The handlers run inside one another: a text that a handler loads into the editor is written back to the
@@ -39,7 +40,6 @@ class GroupNameEditor {
     void GroupNameGrid_Click();
     void GroupNameGrid_RowColChange();
     void TempTxt_Change();
-    void TempTxt_GotFocus() { TempTxt_.SelectWholeText(); }
 
   private:
     void LoadEditor();

@@ -63,11 +63,9 @@ void LineBox::SetText(const std::string& text) {
 }
 
 void LineBox::TakeFocus() {
-    const bool had = hasFocus();
     setFocus(Qt::OtherFocusReason);
     // In a window that is not at the front the focus comes later, and then as the window's.
-    if ((had || !hasFocus()) && gotFocus_)
-        gotFocus_();
+    selectAll();
 }
 
 void LineBox::focusInEvent(QFocusEvent* event) {
@@ -76,8 +74,8 @@ void LineBox::focusInEvent(QFocusEvent* event) {
     pressBringsFocus_ = reason == Qt::MouseFocusReason;
     const bool windowComesBack = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
                                  reason == Qt::MenuBarFocusReason;
-    if (!windowComesBack && gotFocus_)
-        gotFocus_();
+    if (!windowComesBack)
+        selectAll();
 }
 
 void LineBox::mousePressEvent(QMouseEvent* event) {

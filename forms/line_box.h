@@ -3,14 +3,14 @@
 
 #include <QLineEdit>
 
-#include <functional>
 #include <string>
 
 namespace orvane {
 
-/// Takes any characters but line ends: of a pasted text the first line counts. The got-focus handler runs
-/// after the press that brought the focus, which neither places the caret nor starts a selection; it does not
-/// run when the window as a whole comes back to the front.
+/// Takes any characters but line ends: of a pasted text the first line counts. Its whole text is selected
+/// when it gets the focus, so that typing replaces the text; the mouse press that brings the focus neither
+/// places the caret nor starts a selection. The selection stays as it is when the window as a whole comes
+/// back to the front.
 class LineBox : public QLineEdit {
     Q_OBJECT
 
@@ -21,11 +21,7 @@ class LineBox : public QLineEdit {
     /// Sets the text to the letter, whatever it holds. Fires textChanged if it differs.
     void SetText(const std::string& text);
 
-    /// The one got-focus handler.
-    void OnGotFocus(std::function<void()> handler) { gotFocus_ = std::move(handler); }
-    /// Selects the whole text.
-    void SelectWholeText() { selectAll(); }
-    /// Gives the box the focus; the got-focus handler runs also when it has the focus already.
+    /// Gives the box the focus and selects the whole text, also when it has the focus already.
     void TakeFocus();
 
   protected:
@@ -35,7 +31,6 @@ class LineBox : public QLineEdit {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    std::function<void()> gotFocus_;
     bool settingText_ = false;      ///< a text set by the program passes unchanged
     bool pressBringsFocus_ = false; ///< the button that brought the focus is still down
 };

@@ -3,13 +3,17 @@
 #include "forms/event_guard.h"
 #include "forms/main_form.h"
 #include "platform/linux/code_page_iconv.h"
+#include "platform/linux/end_signals.h"
 #include "platform/linux/gio_shell.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_entropy.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_registry.h"
+#include "platform/linux/program_directory.h"
 #include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_common_dialog.h"
+#include "platform/qt/qt_ending.h"
+#include "platform/qt/qt_focus_mark.h"
 #include "platform/qt/qt_input_drain.h"
 #include "platform/qt/qt_message_box.h"
 #include "platform/qt/qt_mouse_pointer.h"
@@ -22,43 +26,52 @@ namespace {
 
 using namespace orvane;
 
-/// The last resort: what escapes from the handlers of the windows and of the toolkit itself is reported too.
+/// The toolkit's application, and the parts of the desktop that it serves.
 class Application : public QApplication {
   public:
-    Application(int& count, char** arguments)
-        : QApplication(count, arguments), messages_(input_), pointer_(input_), guard_(messages_, pointer_) {
+    Application(int& count, char** arguments) : QApplication(count, arguments) {
         setApplicationName("orvane");
         setOrganizationName("Orvane Software");
         setDesktopFileName("orvane");
         setWindowIcon(ApplicationIcon());
         setQuitOnLastWindowClosed(true);
+        ending_.BeginAt(signals_.Descriptor());
     }
 
+    /// The last resort: what escapes from the toolkit itself is reported too.
     bool notify(QObject* receiver, QEvent* event) override {
         try {
             return QApplication::notify(receiver, event);
         } catch (...) {
-            guard_.Handle([] { throw; });
+            guard_.ReportCaught();
             return false;
         }
     }
 
+    QtEnding& Ending() { return ending_; }
     QtInputDrain& Input() { return input_; }
     MessageBox& Messages() { return messages_; }
     MousePointer& Pointer() { return pointer_; }
 
   private:
+    EndSignals signals_;
+    QtEnding ending_;
     QtSecondPress secondPress_;
+    QtFocusMark focusMark_;
     QtInputDrain input_;
-    QtMessageBox messages_;
-    QtMousePointer pointer_;
-    EventGuard guard_;
+    QtMessageBox messages_{input_, ending_};
+    QtMousePointer pointer_{input_};
+    EventGuard guard_{messages_, pointer_};
 };
 
 } // namespace
 
-int main(int argc, char* argv[]) {
-    Application application(argc, argv);
+int main() {
+    // The toolkit has switches of its own; this program has no command line.
+    char name[] = "orvane";
+    char* arguments[] = {name, nullptr};
+    int count = 1;
+    Application application(count, arguments);
     LinuxFiles files;
     const CodePage page = DesktopCodePage();
     LinuxClock clock;
@@ -67,21 +80,14 @@ int main(int argc, char* argv[]) {
     GioShell shell;
     QtClipboard board(page);
     LinuxRegistry keys;
-    Platform desktop{application.Messages(),
-                     application.Pointer(),
-                     files,
-                     page,
-                     clock,
-                     random,
-                     shell,
-                     board,
-                     keys,
-                     QDir::toNativeSeparators(QCoreApplication::applicationDirPath()).toStdString(),
-                     QDir::separator().toLatin1()};
+    Platform desktop{
+        application.Messages(), application.Pointer(),       files, page, clock, random, shell, board, keys,
+        ProgramDirectory(),     QDir::separator().toLatin1()};
     PromptFolder folder;
-    QtCommonDialog CMDialog(folder, application.Input());
-    QtCommonDialog outputDialog(folder, application.Input());
+    QtCommonDialog CMDialog(folder, application.Input(), application.Ending());
+    QtCommonDialog outputDialog(folder, application.Input(), application.Ending());
     MainForm form(desktop, CMDialog, outputDialog);
-    form.Open();
+    // Inside the event loop, so that it ends also when the opening ends with a closed window.
+    QMetaObject::invokeMethod(&form, &MainForm::Open, Qt::QueuedConnection);
     return QApplication::exec();
 }

@@ -6,6 +6,8 @@
 #include "engine/sequence_builder.h"
 #include "forms/about_form.h"
 #include "forms/application_icon.h"
+#include "forms/default_button.h"
+#include "forms/form_look.h"
 #include "forms/group_name_grid.h"
 #include "forms/main_form_controls.h"
 #include "forms/options_form.h"
@@ -18,66 +20,65 @@
 #include "ui_main_form.h"
 
 #include <QCloseEvent>
-#include <QKeyEvent>
-#include <QScreen>
+
+#include <utility>
 
 namespace orvane {
 
 namespace {
 
-constexpr int FontPixels = 11;
 constexpr int ClientWidth = 364;
 constexpr int ClientHeight = 185;
 
+// The items of the menus: the `Index` of their handlers.
+constexpr std::int16_t LoadSettingsItem = 0;
+constexpr std::int16_t SaveSettingsItem = 1;
+constexpr std::int16_t ExitItem = 3;
+constexpr std::int16_t RandomFileItem = 0;
+constexpr std::int16_t OptionItem = 1;
+constexpr std::int16_t ContentItem = 0;
+constexpr std::int16_t AboutItem = 2;
+
 } // namespace
 
-/// The routines behind the window, joined to each other and to its controls.
+/// The routines behind the window, joined to each other and to its controls. Each of them only keeps what it
+/// is joined to and uses none of it before the window opens, so that their order means nothing.
 struct MainForm::Parts {
-    Parts(Ui::Form1& ui, EventGuard& guard, Platform& desktop, CommonDialog& CMDialog,
-          CommonDialog& outputDialog)
-        : sampleSize(*ui.SampSizeTxt, guard), nameBox(*ui.TempTxt, guard),
-          controls(*ui.nogHsb, *ui.SampSizeTxt, guard),
-          outputItems({ui.mnuOutput_0, ui.mnuOutput_1, ui.mnuOutput_2}),
-          groupNames(settings, *ui.GroupNameGrid, nameBox),
-          builder(settings, results, *ui.GroupNameGrid, desktop.Random, desktop.Clock, desktop.Messages),
-          options(settings, results, *ui.GroupNameGrid, desktop),
-          output(desktop, outputDialog), context{settings, results, *ui.GroupNameGrid, builder, desktop},
-          channels(context, CMDialog, output),
-          generation(settings, results, options, channels, sampleSize, desktop.Messages, desktop.Pointer,
-                     desktop.Random, desktop.Clock),
-          settingsFile(settings, *ui.GroupNameGrid, controls, outputItems, desktop),
-          workflow(settingsFile, CMDialog, desktop) {}
+    Ui::Form1& ui;
+    EventGuard& guard;
+    Platform& desktop;
+    CommonDialog& CMDialog;
+    CommonDialog& outputDialog;
 
-    ListSettings settings;
-    ListResults results;
-    SampSizeTxtBox sampleSize;
-    TempTxtBox nameBox;
-    LoadedControls controls;
-    OutputItems outputItems;
-    GroupNameEditor groupNames;
-    SequenceBuilder builder;
-    OptionsForm options;
-    OutputForm output;
-    ReportContext context;
-    ListChannels channels;
-    Generation generation;
-    SettingsFile settingsFile;
-    SettingsWorkflow workflow;
+    ListSettings settings{};
+    ListResults results{};
+    SampSizeTxtBox sampleSize{*ui.SampSizeTxt, guard};
+    TempTxtBox nameBox{*ui.TempTxt, guard};
+    LoadedControls controls{*ui.nogHsb, *ui.SampSizeTxt, guard};
+    OutputItems outputItems{{ui.mnuOutput_0, ui.mnuOutput_1, ui.mnuOutput_2}};
+    GroupNameEditor groupNames{settings, *ui.GroupNameGrid, nameBox};
+    SequenceBuilder builder{settings,       results,       *ui.GroupNameGrid,
+                            desktop.Random, desktop.Clock, desktop.Messages};
+    OptionsForm options{settings, results, *ui.GroupNameGrid, desktop};
+    OutputForm output{desktop, outputDialog};
+    ReportContext context{settings, results, *ui.GroupNameGrid, builder, desktop};
+    ListChannels channels{context, CMDialog, output};
+    Generation generation{settings,         results,         options,        channels,     sampleSize,
+                          desktop.Messages, desktop.Pointer, desktop.Random, desktop.Clock};
+    SettingsFile settingsFile{settings, *ui.GroupNameGrid, controls, outputItems, desktop};
+    SettingsWorkflow workflow{settingsFile, CMDialog, desktop};
 };
 
 MainForm::MainForm(Platform& desktop, CommonDialog& CMDialog, CommonDialog& outputDialog)
     : desktop_(desktop), CMDialog_(CMDialog), guard_(desktop.Messages, desktop.Pointer),
       ui_(std::make_unique<Ui::Form1>()) {
-    // Before there are controls, so that none loads the toolkit's own size of the font first.
-    QFont small = font();
-    small.setPixelSize(FontPixels);
-    setFont(small);
+    UseFormFont(*this);
     ui_->setupUi(this);
-    parts_ = std::make_unique<Parts>(*ui_, guard_, desktop, CMDialog, outputDialog);
+    parts_.reset(new Parts{*ui_, guard_, desktop, CMDialog, outputDialog});
     LayOut();
     ConnectControls();
-    ConnectGroupNames();
     ConnectMenus();
+    new DefaultButton(*ui_->cmdGenerate);
 }
 
 MainForm::~MainForm() = default;
@@ -86,60 +87,65 @@ void MainForm::LayOut() {
     setWindowIcon(ApplicationIcon());
     const int menuHeight = ui_->menuBar->isNativeMenuBar() ? 0 : ui_->menuBar->sizeHint().height();
     resize(ClientWidth, ClientHeight + menuHeight);
-    move(screen()->availableGeometry().center() - rect().center());
+    CentreOnScreen(*this, *this);
     ui_->nogHsb->setFocus();
 }
 
 void MainForm::ConnectControls() {
-    connect(ui_->nogHsb, &QScrollBar::valueChanged, this,
-            [this] { guard_.Handle([this] { nogHsb_Change(); }); });
-    connect(ui_->SampSizeTxt, &QLineEdit::textChanged, this,
-            [this] { guard_.Handle([this] { SampSizeTxt_Change(); }); });
-    ui_->SampSizeTxt->OnGotFocus([this] { guard_.Handle([this] { SampSizeTxt_GotFocus(); }); });
-    connect(ui_->cmdGenerate, &QPushButton::clicked, this,
-            [this] { Command([this] { cmdGenerate_Click(); }); });
-}
-
-void MainForm::ConnectGroupNames() {
     GroupNameEditor& names = parts_->groupNames;
     FlexGridWidget& grid = *ui_->GroupNameGrid;
-    grid.RunUserEventsIn([this](const std::function<void()>& event) { guard_.Handle(event); });
+    On(ui_->nogHsb, &QScrollBar::valueChanged, [this] { nogHsb_Change(); });
+    On(ui_->SampSizeTxt, &QLineEdit::textChanged, [this] { SampSizeTxt_Change(); });
+    On(ui_->TempTxt, &QLineEdit::textChanged, [&names] { names.TempTxt_Change(); });
+    grid.RunUserEventsIn([this](const std::function<void()>& event) { Handle(event); });
     grid.OnRowColChange([&names] { names.GroupNameGrid_RowColChange(); });
     grid.OnClick([&names] { names.GroupNameGrid_Click(); });
-    connect(ui_->TempTxt, &QLineEdit::textChanged, this,
-            [this, &names] { guard_.Handle([&names] { names.TempTxt_Change(); }); });
-    ui_->TempTxt->OnGotFocus([this, &names] { guard_.Handle([&names] { names.TempTxt_GotFocus(); }); });
+    OnCommand(ui_->cmdGenerate, &QPushButton::clicked, [this] { cmdGenerate_Click(); });
 }
 
-/// Runs a command, unless one is at work: an assistive program reaches also what a window in front blocks.
+void MainForm::ConnectMenus() {
+    const auto chosen = &QAction::triggered;
+    OnCommand(ui_->mnuFile_0, chosen, [this] { mnuFile_Click(LoadSettingsItem); });
+    OnCommand(ui_->mnuFile_1, chosen, [this] { mnuFile_Click(SaveSettingsItem); });
+    OnCommand(ui_->mnuFile_3, chosen, [this] { mnuFile_Click(ExitItem); });
+    OnCommand(ui_->mnuView_0, chosen, [this] { mnuView_Click(RandomFileItem); });
+    OnCommand(ui_->mnuView_1, chosen, [this] { mnuView_Click(OptionItem); });
+    OnCommand(ui_->mnuSequence_0, &QMenu::aboutToShow, [this] { mnuSequence_Click(OutputItem); });
+    OnCommand(ui_->mnuSequence_2, chosen, [this] { mnuSequence_Click(GenerateItem); });
+    OnCommand(ui_->mnuOutput_0, chosen, [this] { mnuOutput_Click(ToFile); });
+    OnCommand(ui_->mnuOutput_1, chosen, [this] { mnuOutput_Click(ToWindow); });
+    OnCommand(ui_->mnuOutput_2, chosen, [this] { mnuOutput_Click(ToClipboard); });
+    OnCommand(ui_->mnuHelp_0, chosen, [this] { mnuHelp_Click(ContentItem); });
+    OnCommand(ui_->mnuHelp_2, chosen, [this] { mnuHelp_Click(AboutItem); });
+}
+
+template <class Sender, class Signal, class Handler>
+void MainForm::On(Sender* sender, Signal signal, Handler handler) {
+    connect(sender, signal, this, [this, handler] { Handle(handler); });
+}
+
+template <class Sender, class Signal, class Handler>
+void MainForm::OnCommand(Sender* sender, Signal signal, Handler handler) {
+    connect(sender, signal, this, [this, handler] { Command(handler); });
+}
+
+/// Every event of this window runs its handler here.
+void MainForm::Handle(const std::function<void()>& handler) {
+    guard_.Handle(handler);
+    if (!guard_.IsHandling() && std::exchange(closeWhenDone_, false))
+        close();
+}
+
+/// Runs a command unless one is running: assistive programs can trigger controls behind a modal window.
 void MainForm::Command(const std::function<void()>& command) {
     if (guard_.IsHandling())
         parts_->outputItems.Check(parts_->settings.OutputOption);
     else
-        guard_.Handle(command);
-}
-
-void MainForm::ConnectMenus() {
-    const auto connectItem = [this](QAction* item, void (MainForm::*handler)(std::int16_t),
-                                    std::int16_t Index) {
-        connect(item, &QAction::triggered, this,
-                [this, handler, Index] { Command([&] { (this->*handler)(Index); }); });
-    };
-    connectItem(ui_->mnuFile_0, &MainForm::mnuFile_Click, 0);
-    connectItem(ui_->mnuFile_1, &MainForm::mnuFile_Click, 1);
-    connectItem(ui_->mnuFile_3, &MainForm::mnuFile_Click, 3);
-    connectItem(ui_->mnuView_0, &MainForm::mnuView_Click, 0);
-    connectItem(ui_->mnuView_1, &MainForm::mnuView_Click, 1);
-    connectItem(ui_->mnuSequence_2, &MainForm::mnuSequence_Click, 2);
-    connectItem(ui_->mnuOutput_0, &MainForm::mnuOutput_Click, ToFile);
-    connectItem(ui_->mnuOutput_1, &MainForm::mnuOutput_Click, ToWindow);
-    connectItem(ui_->mnuOutput_2, &MainForm::mnuOutput_Click, ToClipboard);
-    connectItem(ui_->mnuHelp_0, &MainForm::mnuHelp_Click, 0);
-    connectItem(ui_->mnuHelp_2, &MainForm::mnuHelp_Click, 2);
+        Handle(command);
 }
 
 void MainForm::Open() {
-    guard_.Handle([this] { Form_Load(); });
+    Handle([this] { Form_Load(); });
 }
 
 void MainForm::Form_Load() {
@@ -156,20 +162,13 @@ void MainForm::Form_Unload() {
 }
 
 void MainForm::closeEvent(QCloseEvent* event) {
-    if (guard_.IsHandling() && !exiting_)
+    if (guard_.IsHandling()) {
+        closeWhenDone_ = true;
         return event->ignore();
+    }
     if (!std::exchange(unloaded_, true))
         guard_.Handle([this] { Form_Unload(); });
     event->accept();
-}
-
-/// A default button works by itself in dialogs alone. The controls hand Enter on to their window.
-void MainForm::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || (event->modifiers() & ~Qt::KeypadModifier) != 0)
-        return QMainWindow::keyPressEvent(event);
-    if (!event->isAutoRepeat())
-        ui_->cmdGenerate->click();
 }
 
 void MainForm::nogHsb_Change() {
@@ -184,23 +183,18 @@ void MainForm::SampSizeTxt_Change() {
     ui_->mnuView_1->setEnabled(parts_->settings.SampleSize != 0);
 }
 
-void MainForm::SampSizeTxt_GotFocus() {
-    ui_->SampSizeTxt->SelectWholeText();
-}
-
 void MainForm::cmdGenerate_Click() {
     parts_->generation.cmdGenerate_Click();
 }
 
 void MainForm::mnuFile_Click(std::int16_t Index) {
     switch (Index) {
-    case 0:
+    case LoadSettingsItem:
         return parts_->workflow.LoadSettings();
-    case 1:
+    case SaveSettingsItem:
         return parts_->workflow.SaveSettingsAs();
-    case 3:
-        exiting_ = true;
-        return guard_.Calling([this] { close(); });
+    case ExitItem:
+        return static_cast<void>(close()); // when this handler has come to its end
     default:
         break;
     }
@@ -208,9 +202,9 @@ void MainForm::mnuFile_Click(std::int16_t Index) {
 
 void MainForm::mnuView_Click(std::int16_t Index) {
     switch (Index) {
-    case 0:
+    case RandomFileItem:
         return parts_->channels.DisplayRandomFile();
-    case 1:
+    case OptionItem:
         return ShowOptions();
     default:
         break;
@@ -234,10 +228,10 @@ void MainForm::mnuOutput_Click(std::int16_t Index) {
 
 void MainForm::mnuHelp_Click(std::int16_t Index) {
     switch (Index) {
-    case 0:
+    case ContentItem:
         return OpenInBrowser(desktop_.BesideProgram("randomization.htm"), WindowHandle(), desktop_.Shell,
                              desktop_.Messages);
-    case 2:
+    case AboutItem:
         return AboutForm(desktop_, this).ShowModal();
     default:
         break;

@@ -33,18 +33,15 @@ class MainForm : public QMainWindow {
     void Open();
 
   protected:
-    /// Closing writes the settings for the next run. A close that arrives while the window is at work is
-    /// ignored.
+    /// Closing writes the settings for the next run. A close that arrives while a handler is running is taken
+    /// when the handler has come to its end.
     void closeEvent(QCloseEvent* event) override;
-    /// Enter presses cmdGenerate wherever the focus is.
-    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void Form_Load();
     void Form_Unload();
     void nogHsb_Change();
     void SampSizeTxt_Change();
-    void SampSizeTxt_GotFocus();
     void cmdGenerate_Click();
     void mnuFile_Click(std::int16_t Index);
     void mnuView_Click(std::int16_t Index);
@@ -52,11 +49,15 @@ class MainForm : public QMainWindow {
     void mnuOutput_Click(std::int16_t Index);
     void mnuHelp_Click(std::int16_t Index);
 
-    void Command(const std::function<void()>& command);
     void LayOut();
     void ConnectControls();
-    void ConnectGroupNames();
     void ConnectMenus();
+    template <class Sender, class Signal, class Handler>
+    void On(Sender* sender, Signal signal, Handler handler);
+    template <class Sender, class Signal, class Handler>
+    void OnCommand(Sender* sender, Signal signal, Handler handler);
+    void Handle(const std::function<void()>& handler);
+    void Command(const std::function<void()>& command);
     void ShowOptions();
     [[nodiscard]] std::intptr_t WindowHandle() const { return static_cast<std::intptr_t>(winId()); }
 
@@ -67,7 +68,7 @@ class MainForm : public QMainWindow {
     EventGuard guard_;
     std::unique_ptr<Ui::Form1> ui_;
     std::unique_ptr<Parts> parts_;
-    bool exiting_ = false;
+    bool closeWhenDone_ = false; ///< a close waits for the handler that is running
     bool unloaded_ = false;
 };
 

@@ -42,7 +42,10 @@ class TempTxtBox : public NameBox {
     void SetFocus() override {
         guard_.Calling([this] { box_.TakeFocus(); });
     }
-    void SelectWholeText() override { box_.SelectWholeText(); }
+    void SelectIfFocused() override {
+        if (box_.hasFocus())
+            box_.selectAll();
+    }
 
   private:
     LineBox& box_;

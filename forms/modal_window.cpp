@@ -1,16 +1,14 @@
 #include "forms/modal_window.h"
 
+#include "forms/form_look.h"
+
 #include <QApplication>
 #include <QEventLoop>
-#include <QFont>
-#include <QScreen>
 #include <QTimer>
 
 namespace orvane {
 
 namespace {
-
-constexpr int FontPixels = 11;
 
 /// A window system may keep no picture of what a window covered. That has to be painted before work begins
 /// that leaves no time for it. Clicks and keys wait meanwhile.
@@ -26,15 +24,12 @@ void PaintWhatWasCovered() {
 } // namespace
 
 ModalWindow::ModalWindow(Qt::WindowFlags flags) : QDialog(nullptr, flags) {
-    QFont small = font();
-    small.setPixelSize(FontPixels);
-    setFont(small);
+    UseFormFont(*this);
 }
 
 void ModalWindow::ShowModal() {
-    const QWidget* front = QApplication::activeWindow();
-    if (const QScreen* there = front != nullptr ? front->screen() : screen())
-        move(there->availableGeometry().center() - rect().center());
+    const QWidget* const front = QApplication::activeWindow();
+    CentreOnScreen(*this, front != nullptr ? *front : *this);
     exec();
     PaintWhatWasCovered();
 }

@@ -1,13 +1,14 @@
 #include "forms/options_form.h"
 
 #include "engine/numbers.h"
+#include "forms/default_button.h"
 #include "forms/event_guard.h"
 #include "forms/line_box.h"
 #include "forms/modal_window.h"
+#include "forms/options_form_controls.h"
 #include "forms/step_bar.h"
 #include "options/option_properties.h"
 #include "options/option_validation.h"
-#include "options/options_controls.h"
 #include "ui_options_form.h"
 
 #include <QKeyEvent>
@@ -15,8 +16,6 @@
 
 #include <algorithm>
 #include <array>
-#include <exception>
-#include <string>
 #include <vector>
 
 namespace orvane {
@@ -34,39 +33,40 @@ constexpr std::array<Tab, 4> Tabs{{{"Blocks", "Set Options for blocks"},
                                    {"Format", "Set Options for format"},
                                    {"Statistics", "Set statistics on generated sequence"}}};
 
+/// Moves a bar without its handler, so that the opening can run the handler once in any case: also when the
+/// bar stands there already, and not when the bar's limit pushes it.
+void MoveQuietly(QScrollBar& bar, int position) {
+    const QSignalBlocker quiet(bar);
+    bar.setValue(position);
+}
+
 /// The window of one opening.
-class OptionsDialog : public ModalWindow, private OptionsControls {
+class OptionsDialog : public ModalWindow {
   public:
     OptionsDialog(ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
                   Platform& desktop);
 
-    void Open();
+    void Form_Load();
     /// Esc and the frame.
-    void reject() override { Press(&OptionValidation::cmdCancel_Click); }
+    void reject() override {
+        Press([this] { buttons_.cmdCancel_Click(); });
+    }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    using IndexedHandler = void (OptionsDialog::*)(std::int16_t Index);
-
-    void ConnectBlocks();
-    void ConnectCode();
-    void ConnectOthers();
-    template <class Sender, class Signal>
-    void On(Sender* sender, Signal signal, void (OptionsDialog::*handler)());
-    void OnSelected(const OptionGroup& group, IndexedHandler handler);
-    void OnGotFocus(LineBox& field, void (OptionsDialog::*handler)());
-
-    void Press(void (OptionValidation::*button)());
+    void ConnectControls();
+    template <class Sender, class Signal, class Handler>
+    void On(Sender* sender, Signal signal, Handler handler);
+    template <class Handler>
+    void OnSelected(const OptionGroup& group, Handler handler);
+    template <class Handler>
+    void Press(Handler handler);
     void Select(const OptionGroup& group, std::int32_t option);
-    void MoveBar(QScrollBar& bar, int position, void (OptionsDialog::*handler)());
-    void SetText(LineBox& field, const std::string& text);
-    void Focus(LineBox& field);
     void FocusBlockField();
     bool BlkOptTakesKey(QObject& control, QEvent& event);
 
-    void Form_Load();
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers);
     void tbsOptions_Click() { ui_.picOptions->setCurrentIndex(ui_.tbsOptions->currentIndex()); }
     void BlkOpt_Click(std::int16_t Index);
@@ -79,26 +79,13 @@ class OptionsDialog : public ModalWindow, private OptionsControls {
     void EqBlockSizeTxt_Change() { settings_.prEqBlockSize = ui_.EqBlockSizeTxt->Text(); }
     void UnEqBlockSizeTxt_Change() { settings_.prUnEqBlockSize = ui_.UnEqBlockSizeTxt->Text(); }
     void txtLevel_Change() { settings_.SigLevel = LevelOf(ui_.txtLevel->Text()); }
-    void EqBlockSizeTxt_GotFocus() { ui_.EqBlockSizeTxt->SelectWholeText(); }
-    void UnEqBlockSizeTxt_GotFocus() { ui_.UnEqBlockSizeTxt->SelectWholeText(); }
-    void txtLevel_GotFocus() { ui_.txtLevel->SelectWholeText(); }
-
-    void FocusEqBlockSizeTxt() override { Focus(*ui_.EqBlockSizeTxt); }
-    void FocusUnEqBlockSizeTxt() override { Focus(*ui_.UnEqBlockSizeTxt); }
-    void FocusTxtLevel() override { Focus(*ui_.txtLevel); }
-    [[nodiscard]] std::string LevelText() const override { return ui_.txtLevel->Text(); }
-    void SelectTab(std::int16_t tab) override;
-    [[nodiscard]] bool TableBorderChecked() const override { return ui_.chkTableBorder->isChecked(); }
-    [[nodiscard]] std::int16_t CellSpacingPosition() const override {
-        return ToInt16(ui_.hsbCellSp->value());
-    }
-    void Close() override { done(Accepted); }
 
     ListSettings& settings_;
     MousePointer& pointer_;
     EventGuard guard_;
-    OptionValidation validation_;
     Ui::frmOptions ui_{};
+    OptionsFormControls controls_{*this, ui_, guard_};
+    OptionValidation buttons_;
     OptionGroup BlkOpt_;
     OptionGroup AlphaNumOpt_;
     OptionGroup SeqRandOpt_;
@@ -110,74 +97,62 @@ OptionsDialog::OptionsDialog(ListSettings& settings, ListResults& results, const
     : ModalWindow(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                   Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint),
       settings_(settings), pointer_(desktop.Pointer), guard_(desktop.Messages, desktop.Pointer),
-      validation_(settings, results, groupNames, *this, desktop.Messages, desktop.Pointer, desktop.Random,
-                  desktop.Clock) {
+      buttons_(settings, results, groupNames, controls_, desktop.Messages, desktop.Pointer, desktop.Random,
+               desktop.Clock) {
     ui_.setupUi(this);
     for (const Tab& tab : Tabs)
         ui_.tbsOptions->setTabToolTip(ui_.tbsOptions->addTab(tab.caption), tab.toolTip);
     BlkOpt_ = {ui_.BlkOpt_0, ui_.BlkOpt_1, ui_.BlkOpt_2, ui_.BlkOpt_3};
     AlphaNumOpt_ = {ui_.AlphaNumOpt_0, ui_.AlphaNumOpt_1, ui_.AlphaNumOpt_2};
     SeqRandOpt_ = {ui_.SeqRandOpt_0, ui_.SeqRandOpt_1};
-    ConnectBlocks();
-    ConnectCode();
-    ConnectOthers();
+    ConnectControls();
     // The window sees keys before its controls.
     installEventFilter(this);
     for (QWidget* control : findChildren<QWidget*>())
         control->installEventFilter(this);
+    new DefaultButton(*ui_.cmdOK);
     ui_.tbsOptions->setFocus();
 }
 
-void OptionsDialog::ConnectBlocks() {
-    OnSelected(BlkOpt_, &OptionsDialog::BlkOpt_Click);
-    On(ui_.EqBlockSizeTxt, &QLineEdit::textChanged, &OptionsDialog::EqBlockSizeTxt_Change);
-    On(ui_.UnEqBlockSizeTxt, &QLineEdit::textChanged, &OptionsDialog::UnEqBlockSizeTxt_Change);
-    OnGotFocus(*ui_.EqBlockSizeTxt, &OptionsDialog::EqBlockSizeTxt_GotFocus);
-    OnGotFocus(*ui_.UnEqBlockSizeTxt, &OptionsDialog::UnEqBlockSizeTxt_GotFocus);
+void OptionsDialog::ConnectControls() {
+    On(ui_.tbsOptions, &QTabBar::currentChanged, [this] { tbsOptions_Click(); });
+    OnSelected(BlkOpt_, [this](std::int16_t Index) { BlkOpt_Click(Index); });
+    On(ui_.EqBlockSizeTxt, &QLineEdit::textChanged, [this] { EqBlockSizeTxt_Change(); });
+    On(ui_.UnEqBlockSizeTxt, &QLineEdit::textChanged, [this] { UnEqBlockSizeTxt_Change(); });
+    OnSelected(AlphaNumOpt_, [this](std::int16_t Index) { AlphaNumOpt_Click(Index); });
+    OnSelected(SeqRandOpt_, [this](std::int16_t Index) { SeqRandOpt_Click(Index); });
+    On(ui_.LenHsb, &QScrollBar::valueChanged, [this] { LenHsb_Change(); });
+    On(ui_.ColHsb, &QScrollBar::valueChanged, [this] { ColHsb_Change(); });
+    On(ui_.hsbCellSp, &QScrollBar::valueChanged, [this] { hsbCellSp_Change(); });
+    On(ui_.chkPerformRuns, &QCheckBox::toggled, [this] { chkPerformRuns_Click(); });
+    On(ui_.txtLevel, &QLineEdit::textChanged, [this] { txtLevel_Change(); });
+    connect(ui_.cmdOK, &QPushButton::clicked, this, [this] { Press([this] { buttons_.cmdOK_Click(); }); });
+    connect(ui_.cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
+    connect(ui_.cmdApply, &QPushButton::clicked, this,
+            [this] { Press([this] { buttons_.cmdApply_Click(); }); });
 }
 
-void OptionsDialog::ConnectCode() {
-    OnSelected(AlphaNumOpt_, &OptionsDialog::AlphaNumOpt_Click);
-    OnSelected(SeqRandOpt_, &OptionsDialog::SeqRandOpt_Click);
-    On(ui_.LenHsb, &QScrollBar::valueChanged, &OptionsDialog::LenHsb_Change);
+template <class Sender, class Signal, class Handler>
+void OptionsDialog::On(Sender* sender, Signal signal, Handler handler) {
+    connect(sender, signal, this, [this, handler] { guard_.Handle(handler); });
 }
 
-void OptionsDialog::ConnectOthers() {
-    On(ui_.tbsOptions, &QTabBar::currentChanged, &OptionsDialog::tbsOptions_Click);
-    On(ui_.ColHsb, &QScrollBar::valueChanged, &OptionsDialog::ColHsb_Change);
-    On(ui_.hsbCellSp, &QScrollBar::valueChanged, &OptionsDialog::hsbCellSp_Change);
-    On(ui_.chkPerformRuns, &QCheckBox::toggled, &OptionsDialog::chkPerformRuns_Click);
-    On(ui_.txtLevel, &QLineEdit::textChanged, &OptionsDialog::txtLevel_Change);
-    OnGotFocus(*ui_.txtLevel, &OptionsDialog::txtLevel_GotFocus);
-    connect(ui_.cmdOK, &QPushButton::clicked, this, [this] { Press(&OptionValidation::cmdOK_Click); });
-    connect(ui_.cmdCancel, &QPushButton::clicked, this,
-            [this] { Press(&OptionValidation::cmdCancel_Click); });
-    connect(ui_.cmdApply, &QPushButton::clicked, this, [this] { Press(&OptionValidation::cmdApply_Click); });
-}
-
-template <class Sender, class Signal>
-void OptionsDialog::On(Sender* sender, Signal signal, void (OptionsDialog::*handler)()) {
-    connect(sender, signal, this, [this, handler] { guard_.Handle([&] { (this->*handler)(); }); });
-}
-
-void OptionsDialog::OnSelected(const OptionGroup& group, IndexedHandler handler) {
+template <class Handler>
+void OptionsDialog::OnSelected(const OptionGroup& group, Handler handler) {
     for (std::int16_t Index = 0; QRadioButton * option : group) {
         connect(option, &QRadioButton::toggled, this, [this, handler, Index](bool selected) {
             if (selected)
-                guard_.Handle([&] { (this->*handler)(Index); });
+                guard_.Handle([&] { handler(Index); });
         });
         ++Index;
     }
 }
 
-void OptionsDialog::OnGotFocus(LineBox& field, void (OptionsDialog::*handler)()) {
-    field.OnGotFocus([this, handler] { guard_.Handle([&] { (this->*handler)(); }); });
-}
-
 /// Runs what a button does, unless the window has closed: the second half of a double click comes too late.
-void OptionsDialog::Press(void (OptionValidation::*button)()) {
+template <class Handler>
+void OptionsDialog::Press(Handler handler) {
     if (isVisible())
-        guard_.Handle([&] { (validation_.*button)(); });
+        guard_.Handle(handler);
 }
 
 /// As after a click, the selected option alone is a stop of the Tab key.
@@ -188,47 +163,11 @@ void OptionsDialog::Select(const OptionGroup& group, std::int32_t option) {
     guard_.Calling([&] { selected->setChecked(true); });
 }
 
-/// The handler runs once, whether or not the bar stood there before.
-void OptionsDialog::MoveBar(QScrollBar& bar, int position, void (OptionsDialog::*handler)()) {
-    {
-        const QSignalBlocker quiet(bar);
-        bar.setValue(position);
-    }
-    (this->*handler)();
-}
-
-void OptionsDialog::SetText(LineBox& field, const std::string& text) {
-    guard_.Calling([&] { field.SetText(text); });
-}
-
-void OptionsDialog::Focus(LineBox& field) {
-    if (field.isVisible() && field.isEnabled())
-        guard_.Calling([&] { field.TakeFocus(); });
-}
-
-void OptionsDialog::SelectTab(std::int16_t tab) {
-    guard_.Calling([&] { ui_.tbsOptions->setCurrentIndex(tab - 1); });
-}
-
-void OptionsDialog::Open() {
-    std::exception_ptr failure;
-    guard_.Handle([&] {
-        try {
-            Form_Load();
-        } catch (...) {
-            failure = std::current_exception(); // the opener's, not the guard's
-        }
-    });
-    if (failure)
-        std::rethrow_exception(failure);
-    ShowModal();
-}
-
 void OptionsDialog::Form_Load() {
     Loading_ = true;
-    SetText(*ui_.txtLevel, SevenDigits(settings_.SigLevel));
+    guard_.Calling([&] { ui_.txtLevel->SetText(SevenDigits(settings_.SigLevel)); });
     txtLevel_Change(); // also where the box showed this text already
-    validation_.TakeSnapshot();
+    buttons_.TakeSnapshot();
     BringOptionsIntoRange(settings_);
     guard_.Calling([&] { ui_.chkPerformRuns->setChecked(settings_.PerformRuns); });
     Select(AlphaNumOpt_, settings_.CodeAlphaNum);
@@ -238,13 +177,16 @@ void OptionsDialog::Form_Load() {
         const QSignalBlocker quiet(ui_.LenHsb); // a bar that its limit pushes would overwrite CodeLength
         ui_.LenHsb->setMinimum(LowestCodeLength(settings_.SampleSize));
     }
-    MoveBar(*ui_.LenHsb, settings_.CodeLength, &OptionsDialog::LenHsb_Change);
-    SetText(*ui_.EqBlockSizeTxt, std::string(settings_.prEqBlockSize));
-    SetText(*ui_.UnEqBlockSizeTxt, std::string(settings_.prUnEqBlockSize));
+    MoveQuietly(*ui_.LenHsb, settings_.CodeLength);
+    LenHsb_Change();
+    guard_.Calling([&] { ui_.EqBlockSizeTxt->SetText(std::string(settings_.prEqBlockSize)); });
+    guard_.Calling([&] { ui_.UnEqBlockSizeTxt->SetText(std::string(settings_.prUnEqBlockSize)); });
     Loading_ = false;
-    MoveBar(*ui_.ColHsb, settings_.Columns, &OptionsDialog::ColHsb_Change);
+    MoveQuietly(*ui_.ColHsb, settings_.Columns);
+    ColHsb_Change();
     ui_.chkTableBorder->setChecked(settings_.TableBorder);
-    MoveBar(*ui_.hsbCellSp, settings_.CellSpacing, &OptionsDialog::hsbCellSp_Change);
+    MoveQuietly(*ui_.hsbCellSp, settings_.CellSpacing);
+    hsbCellSp_Change();
     pointer_.ShowNormal();
 }
 
@@ -290,9 +232,9 @@ void OptionsDialog::BlkOpt_Click(std::int16_t Index) {
 /// Options without a field leave the focus where it is.
 void OptionsDialog::FocusBlockField() {
     if (settings_.prBlockOption == EqualSize)
-        FocusEqBlockSizeTxt();
+        controls_.FocusEqBlockSizeTxt();
     else if (settings_.prBlockOption == RandomSizesOf)
-        FocusUnEqBlockSizeTxt();
+        controls_.FocusUnEqBlockSizeTxt();
 }
 
 void OptionsDialog::LenHsb_Change() {
@@ -314,7 +256,8 @@ void OptionsDialog::chkPerformRuns_Click() {
 
 void OptionsForm::ShowModal() {
     OptionsDialog window(settings_, results_, groupNames_, desktop_);
-    window.Open();
+    window.Form_Load();
+    window.ShowModal();
 }
 
 } // namespace orvane

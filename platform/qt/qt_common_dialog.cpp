@@ -4,12 +4,15 @@
 #include "platform/qt/owner_window.h"
 #include "platform/qt/prompt_filter.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSize>
 #include <QStandardPaths>
 #include <QTreeView>
@@ -38,6 +41,35 @@ void ShowColumnsInFull(QFileDialog& dialog) {
         columns.setSectionResizeMode(column,
                                      column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
 }
+
+/// The toolkit's own open prompt switches its button off for a file that the selected entry does not show.
+/// Here the button is on for every file that exists.
+class OpenButtonRule : public QObject {
+  public:
+    explicit OpenButtonRule(QFileDialog& dialog) : QObject(&dialog), dialog_(dialog) {
+        auto* const name = dialog.findChild<QLineEdit*>();
+        const auto* const buttons = dialog.findChild<QDialogButtonBox*>();
+        if (name == nullptr || buttons == nullptr)
+            return;
+        open_ = buttons->button(QDialogButtonBox::Open);
+        open_->installEventFilter(this);
+        connect(name, &QLineEdit::textChanged, this, &OpenButtonRule::Apply);
+    }
+
+  private:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::EnabledChange)
+            Apply();
+        return QObject::eventFilter(watched, event);
+    }
+    void Apply() {
+        if (!open_->isEnabled() && QFileInfo(dialog_.selectedFiles().value(0)).isFile())
+            open_->setEnabled(true);
+    }
+
+    QFileDialog& dialog_;
+    QPushButton* open_ = nullptr;
+};
 
 /// The path chosen, before it got the extension of the selected entry.
 QString TypedPath(QFileDialog& dialog) {
@@ -91,11 +123,13 @@ void QtCommonDialog::Show(Kind kind) {
                                                    : QString());
     };
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, followEntry);
+    if (kind == Kind::Open)
+        new OpenButtonRule(dialog);
     Offer(dialog);
     followEntry();
     QString path;
     do {
-        const bool accepted = dialog.exec() == QDialog::Accepted;
+        const bool accepted = !ending_.IsEnding() && dialog.exec() == QDialog::Accepted;
         folder_.Path = dialog.directory().absolutePath();
         if (!accepted)
             throw Failure("Cancel was selected.", failure_number::Cancelled, Source);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/common_dialog.h"
+#include "platform/qt/qt_ending.h"
 #include "platform/qt/qt_input_drain.h"
 
 #include <QString>
@@ -19,10 +20,12 @@ struct PromptFolder {
 
 /// The first filter entry is selected. A save prompt gives a name typed without an extension that of the
 /// selected entry and asks the overwrite question about the name with it; an open prompt takes the name of an
-/// existing file as it is.
+/// existing file as it is, whether or not the selected entry shows it. While the program is ending every
+/// prompt counts as cancelled.
 class QtCommonDialog : public CommonDialog {
   public:
-    QtCommonDialog(PromptFolder& folder, QtInputDrain& input) : folder_(folder), input_(input) {}
+    QtCommonDialog(PromptFolder& folder, QtInputDrain& input, const QtEnding& ending)
+        : folder_(folder), input_(input), ending_(ending) {}
     void ShowOpen() override;
     void ShowSave() override;
 
@@ -37,6 +40,7 @@ class QtCommonDialog : public CommonDialog {
 
     PromptFolder& folder_;
     QtInputDrain& input_;
+    const QtEnding& ending_;
 };
 
 } // namespace orvane

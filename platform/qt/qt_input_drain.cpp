@@ -34,7 +34,6 @@ bool IsUserInput(QEvent::Type type) {
     case QEvent::TabletMove:
     case QEvent::NativeGesture:
     case QEvent::Drop:
-    case QEvent::Close:
         return true;
     default:
         return false;
@@ -45,7 +44,8 @@ bool IsUserInput(QEvent::Type type) {
 
 void QtInputDrain::DropPendingInput() {
     constexpr int patience = 500; // milliseconds: a key that is held down gives no end of events
-    if (!busy_ || dropping_)
+    // In an open menu the keys that follow belong to the menu.
+    if (!busy_ || dropping_ || QApplication::activePopupWidget() != nullptr)
         return;
     dropping_ = true;
     modal_ = QApplication::activeModalWidget();
@@ -60,7 +60,6 @@ bool QtInputDrain::eventFilter(QObject* /*watched*/, QEvent* event) {
     const bool boxOpened = QApplication::activeModalWidget() != modal_;
     if (boxOpened || !IsUserInput(event->type()))
         return false;
-    // A window whose close request is dropped stays open.
     event->ignore();
     return true;
 }

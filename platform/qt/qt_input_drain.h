@@ -11,9 +11,10 @@ class QtInputDrain : private QObject {
     [[nodiscard]] bool IsBusy() const { return busy_; }
     void SetBusy(bool busy) { busy_ = busy; }
 
-    /// Drops the clicks, keys and close requests that wait in the window system and in the program; paints
-    /// what has to be painted. A box that opens meanwhile gets its input. Does nothing unless the program is
-    /// busy, and nothing when it is called from inside itself.
+    /// Drops the clicks and keys that wait in the window system and in the program; paints what has to be
+    /// painted. A request to close a window reaches the window. A box that opens meanwhile gets its input.
+    /// Does nothing unless the program is busy, nothing while a menu is open, and nothing when it is called
+    /// from inside itself.
     void DropPendingInput();
 
   private:

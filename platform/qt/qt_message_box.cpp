@@ -3,10 +3,11 @@
 #include "platform/application.h"
 #include "platform/qt/owner_window.h"
 
-#include <QMessageBox>
 #include <QRegularExpression>
 #include <QString>
 #include <QStringList>
+
+#include <iostream>
 
 namespace orvane {
 
@@ -51,8 +52,14 @@ QString Shown(const std::string& text) {
     return WithBreaks(WithoutMiddleCharacters(WithoutMiddleLines(shown)));
 }
 
-void Run(QMessageBox::Icon icon, const std::string& text, const std::string& title, QtInputDrain& input) {
-    input.DropPendingInput();
+} // namespace
+
+void QtMessageBox::Run(QMessageBox::Icon icon, const std::string& text, const std::string& title) {
+    input_.DropPendingInput();
+    if (ending_.IsEnding()) {
+        std::cerr << title << ": " << text << '\n';
+        return;
+    }
     QMessageBox box(icon, QString::fromStdString(title), QString(), QMessageBox::Ok, OwnerWindow());
     box.setObjectName(QStringLiteral("MessageBox"));
     box.setTextFormat(Qt::PlainText);
@@ -60,14 +67,12 @@ void Run(QMessageBox::Icon icon, const std::string& text, const std::string& tit
     box.exec();
 }
 
-} // namespace
-
 void QtMessageBox::Show(const std::string& text) {
-    Run(QMessageBox::NoIcon, text, ApplicationTitle, input_);
+    Run(QMessageBox::NoIcon, text, ApplicationTitle);
 }
 
 void QtMessageBox::ShowExclamation(const std::string& text, const std::string& title) {
-    Run(QMessageBox::Warning, text, title, input_);
+    Run(QMessageBox::Warning, text, title);
 }
 
 } // namespace orvane

@@ -276,6 +276,8 @@ TEST_F(MainFormTest, TypingInTheEmptyEditorAfterAChangeOfTheCountChangesNoName) 
     EXPECT_EQ(GroupNames(), (Names{"Verum", "Placebo", "Group 3"}));
     EXPECT_EQ(TempTxt().Text(), "Verum");
     EXPECT_EQ(Current(), std::tuple(1, 1));
+    Type("yz");
+    EXPECT_EQ(GroupNames(), (Names{"yz", "Placebo", "Group 3"}));
 }
 
 TEST_F(MainFormTest, ANameIsPickedWithTheMouseAndTypedOver) {
@@ -305,6 +307,9 @@ TEST_F(MainFormTest, ANameIsPickedWithTheMouseAndTypedOver) {
     QTest::mousePress(Grid().viewport(), Qt::LeftButton, {}, middle(3));
     QTest::mouseRelease(Grid().viewport(), Qt::LeftButton, {}, QPoint(-9, -9)); // no click
     EXPECT_EQ(Focus(), "GroupNameGrid");
+
+    for (int row = 0; row <= 3; ++row)
+        EXPECT_EQ(Grid().model()->headerData(row, Qt::Vertical), row == 0 ? "" : QString::number(row));
 
     const QImage image = Grid().viewport()->grab().toImage();
     const auto colour = [&](int row, int col) {
@@ -468,18 +473,25 @@ TEST_F(MainFormTest, ClosingWritesTheSettingsOnceUnlessTheBoxIsCleared) {
         }
 }
 
-TEST_F(MainFormTest, ClosesAlsoWhenTheSettingsCannotBeWrittenAndNotWhileAtWork) {
+TEST_F(MainFormTest, AClosingDuringWorkWaitsForItsEndAndNeedsNoSettingsFile) {
     Open();
     desktop.messages.WhileShown = [&] { EXPECT_FALSE(form->close()); };
+    desktop.files.Fails = {"Delete", "OpenForOutput"};
     TypeInto(SampSizeTxt(), "");
     Click(*form, "cmdGenerate");
-    EXPECT_EQ(desktop.messages.Take(), "please specify the sample size");
-    EXPECT_TRUE(form->isVisible());
-    desktop.messages.WhileShown = {};
-    desktop.files.Fails = {"Delete", "OpenForOutput"};
-    form->close();
-    EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: "));
+    const Names shown = desktop.messages.TakeAll();
+    ASSERT_EQ(shown.size(), 2);
+    EXPECT_EQ(shown[0], "please specify the sample size");
+    EXPECT_TRUE(shown[1].starts_with("Error Description: "));
     EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(MainFormTest, TheOutputSubmenuShowsTheBusyPointerAndTheNormalOne) {
+    Open();
+    desktop.pointer.Calls.clear();
+    The<QMenu>("mnuSequence_0").popup(QPoint());
+    EXPECT_EQ(desktop.pointer.Calls, "BN");
+    The<QMenu>("mnuSequence_0").close();
 }
 
 TEST_F(MainFormTest, AFailureThatNoRoutineCatchesIsReportedOnceAndTheProgramGoesOn) {

@@ -436,6 +436,28 @@ TEST_F(OptionsFormTest, FailureBehindOKIsReportedOnceAndTheWindowStays) {
     });
 }
 
+TEST_F(OptionsFormTest, EnterPressesOKAtEveryOtherControl) {
+    for (const auto& [tab, name] : std::vector<std::pair<int, std::string>>{{1, "tbsOptions"},
+                                                                            {1, "BlkOpt_3"},
+                                                                            {1, "BlkOpt_0"},
+                                                                            {2, "LenHsb"},
+                                                                            {2, "SeqRandOpt_0"},
+                                                                            {3, "chkTableBorder"},
+                                                                            {4, "chkPerformRuns"},
+                                                                            {4, "txtLevel"}}) {
+        settings.SelectedCmd = NotClosedByButton;
+        Open([&, tab = tab, name = name](QDialog& window) {
+            SelectTab(window, tab);
+            Find<QWidget>(window, name).setFocus();
+            QTest::simulateEvent(QApplication::focusWidget(), true, Qt::Key_Return, {}, "\r", true);
+            EXPECT_TRUE(window.isVisible()) << "a key that is held down";
+            Press(tab % 2 == 0 ? Qt::Key_Enter : Qt::Key_Return);
+        });
+        EXPECT_EQ(settings.SelectedCmd, ClosedByOK) << name;
+        EXPECT_FALSE(settings.PerformRuns || settings.TableBorder);
+    }
+}
+
 TEST_F(OptionsFormTest, EnterOnAFocusedButtonPressesThatButton) {
     Open([&](QDialog& window) {
         Find<QWidget>(window, "cmdApply").setFocus();

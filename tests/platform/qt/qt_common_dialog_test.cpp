@@ -84,7 +84,8 @@ class QtCommonDialogTest : public testing::Test {
     QTemporaryDir home;
     PromptFolder start;
     QtInputDrain input;
-    QtCommonDialog prompt{start, input};
+    QtEnding ending;
+    QtCommonDialog prompt{start, input, ending};
     QStringList questions;
 };
 
@@ -164,18 +165,27 @@ TEST_F(QtCommonDialogTest, AsksBeforeAFileIsReplacedUnderItsFullName) {
 }
 
 TEST_F(QtCommonDialogTest, OpensExistingFilesUnderTheNameAsTyped) {
-    InPrompt([&](QFileDialog& dialog) {
-        EXPECT_EQ(NameOf(dialog).text(), QStringLiteral("output"));
-        Choose(dialog, QDialogButtonBox::Open); // there is no such file
-        EXPECT_TRUE(dialog.isVisible());
-        TypeAndChoose(dialog, "list", QDialogButtonBox::Open);
-    });
-    prompt.ShowOpen();
-    EXPECT_EQ(prompt.FileName, PathOf("list"));
+    for (const char* const name : {"list", "other.txt"}) {
+        InPrompt([&](QFileDialog& dialog) {
+            EXPECT_EQ(NameOf(dialog).text(), QStringLiteral("output"));
+            Choose(dialog, QDialogButtonBox::Open); // there is no such file
+            EXPECT_TRUE(dialog.isVisible());
+            TypeAndChoose(dialog, name, QDialogButtonBox::Open);
+        });
+        prompt.FileName = "output";
+        prompt.ShowOpen();
+        EXPECT_EQ(prompt.FileName, PathOf(name));
+    }
+}
+
+TEST_F(QtCommonDialogTest, CountsAsCancelledWhenTheProgramEnds) {
+    InPrompt([&](QFileDialog&) { ending.Begin(); });
+    for (int opening = 1; opening <= 2; ++opening)
+        ExpectCancelled([&] { prompt.ShowSave(); });
 }
 
 TEST_F(QtCommonDialogTest, CancelLeavesTheNameAndEveryPromptStartsWhereTheLastEnded) {
-    QtCommonDialog other(start, input);
+    QtCommonDialog other(start, input, ending);
     const auto expectStart = [&](QtCommonDialog& next, const QString& folder, const QString& name) {
         const std::string before = next.FileName;
         InPrompt([=](QFileDialog& dialog) {

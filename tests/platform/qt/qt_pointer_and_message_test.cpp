@@ -1,10 +1,14 @@
 #include "fakes/qt_application.h"
+#include "platform/qt/qt_ending.h"
+#include "platform/qt/qt_focus_mark.h"
 #include "platform/qt/qt_input_drain.h"
 #include "platform/qt/qt_message_box.h"
 #include "platform/qt/qt_mouse_pointer.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -26,10 +30,14 @@ namespace {
 class Window : public QPushButton {
   public:
     int handled = 0;
+    int closes = 0;
 
   protected:
     void nextCheckState() override { ++handled; }
-    void closeEvent(QCloseEvent* /*event*/) override { ++handled; }
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore();
+        ++closes;
+    }
     void wheelEvent(QWheelEvent* /*event*/) override { ++handled; }
     void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { ++handled; }
 };
@@ -82,7 +90,8 @@ class QtPointerAndMessage : public testing::Test {
     QTimer watch;
     QtInputDrain input;
     QtMousePointer pointer{input};
-    QtMessageBox messages{input};
+    QtEnding ending;
+    QtMessageBox messages{input, ending};
 };
 
 TEST_F(QtPointerAndMessage, PointerIsSetOnceAndDropsTheInputOfTheBusyTime) {
@@ -95,11 +104,12 @@ TEST_F(QtPointerAndMessage, PointerIsSetOnceAndDropsTheInputOfTheBusyTime) {
         pointer.ShowNormal();
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
         EXPECT_EQ(Handled(), 0);
+        EXPECT_EQ(window.closes, i + 1);
         pointer.ShowNormal();
     }
     PostInput();
     pointer.ShowNormal();
-    EXPECT_EQ(Handled(), 5);
+    EXPECT_EQ(Handled(), 4);
 }
 
 TEST_F(QtPointerAndMessage, DropsInputBeforeAMessageOfTheBusyTime) {
@@ -122,6 +132,39 @@ TEST_F(QtPointerAndMessage, AMessageThatComesWhileInputIsDroppedCanBeAnswered) {
     InBox([](QMessageBox&) {});
     pointer.ShowNormal();
     EXPECT_TRUE(answered);
+}
+
+TEST_F(QtPointerAndMessage, NoMessageWaitsForAnAnswerWhenTheProgramEnds) {
+    testing::internal::CaptureStderr();
+    QTimer::singleShot(0, [this] { ending.Begin(); });
+    messages.Show("open");
+    messages.Show("later");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Orvane Software: later\n");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window.closes > 1; }));
+}
+
+TEST_F(QtPointerAndMessage, NoKeyIsDroppedWhileAMenuIsOpen) {
+    QMenu menu;
+    menu.popup(QPoint());
+    pointer.ShowBusy();
+    PostBlank(window);
+    pointer.ShowNormal();
+    EXPECT_EQ(Handled(), 1);
+}
+
+TEST_F(QtPointerAndMessage, TheFocusIsMarkedButInTextBoxes) {
+    const QtFocusMark mark;
+    QLineEdit text(&window);
+    QPushButton button(&window);
+    text.show();
+    button.show();
+    for (int time = 1; time <= 2; ++time) {
+        button.setFocus();
+        ASSERT_EQ(window.findChildren<QFocusFrame*>().size(), 1);
+        EXPECT_TRUE(window.findChild<QFocusFrame*>()->isVisible());
+        text.setFocus();
+        EXPECT_EQ(window.findChildren<QFocusFrame*>().size(), 0);
+    }
 }
 
 TEST_F(QtPointerAndMessage, ShowsTextCaptionAndIcon) {

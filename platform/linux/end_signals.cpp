@@ -1,0 +1,59 @@
+#include "platform/linux/end_signals.h"
+
+#include "platform/failure.h"
+
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <cstdint>
+#include <initializer_list>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace orvane {
+
+namespace {
+
+/// A signal handler has no other way to its object.
+std::atomic<int> signalled = -1;
+static_assert(std::atomic<int>::is_always_lock_free);
+
+void OnSignal(int /*signal*/) {
+    const int before = errno;
+    const std::uint64_t one = 1;
+    // A full counter is readable already.
+    [[maybe_unused]] const auto written = ::write(signalled, &one, sizeof one);
+    errno = before;
+}
+
+} // namespace
+
+EndSignals::EndSignals() : descriptor_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {
+    if (descriptor_ < 0)
+        throw Failure("The system has no descriptor for the signals that end the program", errno, "eventfd");
+    signalled = descriptor_;
+    std::signal(SIGPIPE, SIG_IGN);
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction before = {};
+        ::sigaction(number, nullptr, &before);
+        if (before.sa_handler == SIG_IGN)
+            continue;
+        struct sigaction action = {};
+        action.sa_handler = OnSignal;
+        action.sa_flags = SA_RESTART;
+        ::sigaction(number, &action, nullptr);
+    }
+}
+
+EndSignals::~EndSignals() {
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction now = {};
+        ::sigaction(number, nullptr, &now);
+        if (now.sa_handler == OnSignal)
+            std::signal(number, SIG_DFL);
+    }
+    signalled = -1;
+    ::close(descriptor_);
+}
+
+} // namespace orvane
