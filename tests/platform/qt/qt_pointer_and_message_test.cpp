@@ -139,7 +139,7 @@ TEST_F(QtPointerAndMessage, NoMessageWaitsForAnAnswerWhenTheProgramEnds) {
     QTimer::singleShot(0, [this] { ending.Begin(); });
     messages.Show("open");
     messages.Show("later");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Orvane Software: later\n");
+    EXPECT_TRUE(testing::internal::GetCapturedStderr().ends_with("Orvane Software: later\n"));
     EXPECT_TRUE(QTest::qWaitFor([this] { return window.closes > 1; }));
 }
 
