@@ -15,7 +15,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::chrono::milliseconds Glance{10};
-constexpr const char* FolderVariable = "ORVANE_DISPLAY_FOLDER";
 
 Words Split(const std::string& text, char separator) {
     Words words;
@@ -30,6 +29,13 @@ std::string Line(std::string text) {
     if (text.ends_with('\n'))
         text.pop_back();
     return text;
+}
+
+fs::path FolderOfDisplay() {
+    const char* folder = std::getenv("ORVANE_DISPLAY_FOLDER");
+    if (folder == nullptr)
+        throw Fault("there is no display to work on; please start this through tools/on_display");
+    return folder;
 }
 
 std::shared_ptr<GSubprocess> Spawn(GSubprocessLauncher* launcher, const Words& words) {
@@ -66,12 +72,7 @@ void WriteFile(const fs::path& path, const std::string& bytes) {
         throw Fault("cannot write " + path.string());
 }
 
-Desktop::Desktop() {
-    const char* folder = std::getenv(FolderVariable);
-    if (folder == nullptr)
-        throw Fault("there is no display to work on; please start this through tools/on_display");
-    folder_ = folder;
-}
+Desktop::Desktop() : folder_(FolderOfDisplay()) {}
 
 Desktop::~Desktop() {
     if (!Running())

@@ -113,7 +113,7 @@ class Desktop {
     [[nodiscard]] std::filesystem::path Log() const { return folder_ / "log"; }
     void SettleAndWrite(const Words& from, const std::filesystem::path& file) const;
 
-    std::filesystem::path folder_;
+    std::filesystem::path folder_; // set first: without it there is nothing to read
     ScreenReader reader_;
     std::shared_ptr<GSubprocess> program_;
 };

@@ -50,8 +50,14 @@ std::string NameOf(const Node& node) {
     return Own(atspi_accessible_get_name(node.get(), nullptr));
 }
 
+/// The state as it is now, not as the library remembers it; nullptr if its program does not answer.
+std::shared_ptr<AtspiStateSet> StateOf(const Node& node) {
+    atspi_accessible_clear_cache(node.get());
+    return Own(atspi_accessible_get_state_set(node.get()));
+}
+
 bool Walk(const Node& node, int depth, const std::function<bool(const Control&)>& look) {
-    const auto state = Own(atspi_accessible_get_state_set(node.get()));
+    const auto state = StateOf(node);
     const auto is = [&](AtspiStateType type) { return atspi_state_set_contains(state.get(), type) != FALSE; };
     if (!state || !is(ATSPI_STATE_SHOWING) || depth > DeepestControl)
         return false;
@@ -78,14 +84,16 @@ bool Walk(const Node& node, int depth, const std::function<bool(const Control&)>
 ScreenReader::ScreenReader() {
     atspi_init();
     atspi_set_timeout(AnswerTime, AnswerTime);
-    // What the library remembers is out of date when a window has changed.
-    atspi_accessible_set_cache_mask(Own(atspi_get_desktop(0)).get(), ATSPI_CACHE_NONE);
+    // The library must remember nothing, because what it remembers is out of date when a window has changed.
+    // States are an exception: without them the library asks for one while it handles the answer of a GTK
+    // program, and waits for itself for ever.
+    atspi_accessible_set_cache_mask(Own(atspi_get_desktop(0)).get(), ATSPI_CACHE_STATES);
 }
 
 std::vector<std::string> ScreenReader::Titles() const {
     std::vector<std::string> titles;
     for (const Node& window : AllWindows()) {
-        const auto state = Own(atspi_accessible_get_state_set(window.get()));
+        const auto state = StateOf(window);
         if (state && atspi_state_set_contains(state.get(), ATSPI_STATE_SHOWING) != FALSE)
             titles.push_back(NameOf(window));
     }
