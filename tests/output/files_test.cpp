@@ -2,6 +2,7 @@
 // clipboard.
 
 #include "list_desk.h"
+#include "output/output_document.h"
 #include "output/text_file.h"
 
 #include <new>
@@ -65,59 +66,39 @@ TEST(TextFileWriter, WritesEverythingOnceWhateverFails) {
     EXPECT_EQ(files.Open, 0);
 }
 
-TEST(OutputDocument, SavesCopiesOfTheFileAndDeletesItAtTheClose) {
-    ListDesk desk;
-    auto& files = desk.desktop.files;
-    const auto save = [&] {
-        desk.window.Document.SaveCmd_Click();
-        return desk.desktop.messages.TakeAll();
-    };
-    desk.windowDialog.Answers = {"/x/a.htm", "/x/b", "/x/a.TXT", std::nullopt, "/x/b.txt"};
-    desk.window.WhileOpen = [&] {
-        EXPECT_EQ(save(), Texts(2, "Only text files allowed!"));
-        EXPECT_EQ(save(), Texts{});
-        files.Fails = {"Copy", "Delete"};
-        EXPECT_EQ(save(), Texts{Report("cannot Copy", 5, "a fake")});
-        desk.windowDialog.Fails = {"save "};
-        EXPECT_EQ(save(), Texts{Report("cannot save ", 5, "a fake")});
-    };
-    const std::string text = desk.ToTheWindow(); // a file that cannot be deleted stays, and nobody is told
-    const std::map<std::string, std::string> left = {{"/x/a.TXT", text}, {"/program/00000000.tmp", text}};
-    EXPECT_EQ(files.Contents, left);
-    EXPECT_EQ(desk.windowDialog.DefaultExt, "htm");
-    for (const auto& look : desk.windowDialog.Shown)
-        EXPECT_EQ(look, "save 2, output|Save to File As...|Text file (*.txt)|*.txt");
+struct ShownText : OutputText {
+    void AppendLine(const std::string& text) override { Lines += text + "\r\n"; }
+    std::string Lines;
+};
 
-    files = {};
-    desk.window.WhileOpen = {};
-    desk.ToTheWindow();
-    EXPECT_TRUE(files.Contents.empty());
-}
-
-TEST(OutputDocument, ShowsWhatItCanReadOfAFile) {
+TEST(OutputDocument, ShowsWhatItCanReadOfAFileAndDeletesItQuietly) {
     const std::string chunk = std::string((std::size_t{1} << 16U) - 2, 'x') + "\r\n";
     std::string largest;
     while (largest.size() < OutputDocument::LargestFile)
         largest += chunk;
-    ListDesk desk;
-    desk.window.OutputFileName("/x/f.txt", false);
-    const auto show = [&](const std::string& bytes) {
-        desk.desktop.pointer.Calls.clear();
-        desk.desktop.files.Contents["/x/f.txt"] = bytes;
-        desk.window.ShowModal();
-        EXPECT_EQ(desk.desktop.files.Open, 0);
-        return desk.desktop.messages.Take() + desk.desktop.pointer.Calls;
+    FakeDesktop desktop;
+    ScriptedDialog dialog;
+    OutputDocument document(desktop.platform, dialog);
+    document.OutputFileName("f", true);
+    const auto show = [&](const std::string& bytes, const std::string& shown) {
+        desktop.pointer.Calls.clear();
+        desktop.files.Contents["f"] = bytes;
+        ShownText text;
+        document.Form_Load(text);
+        EXPECT_TRUE(text.Lines == shown);
+        EXPECT_EQ(desktop.files.Open, 0);
+        return desktop.messages.Take() + desktop.pointer.Calls;
     };
-    EXPECT_EQ(show("caf\xE9\rb\nb\r\n\r\nlast"), "N");
-    EXPECT_EQ(desk.window.Text, "café\r\nb\nb\r\n\r\nlast\r\n");
-    EXPECT_EQ(show(largest), "N");
-    EXPECT_EQ(show(largest + "more"),
-              Report("The file /x/f.txt is too large to be shown as a whole", 20012, "OutputFrm"));
-    EXPECT_EQ(desk.window.Text.size(), OutputDocument::LargestFile);
-    desk.desktop.files.Fails = {"Read"};
-    desk.desktop.files.Before = 1;
-    EXPECT_EQ(show(chunk + "more"), Report("cannot Read", 5, "a fake"));
-    EXPECT_EQ(desk.window.Text, chunk) << "a line that was read is shown";
+    EXPECT_EQ(show("caf\xE9\rb\nb\r\n\r\nlast", "café\r\nb\nb\r\n\r\nlast\r\n"), "N");
+    EXPECT_EQ(show(largest, largest), "N");
+    EXPECT_EQ(show(largest + "more", largest),
+              Report("The file f is too large to be shown as a whole", 20012, "OutputFrm"));
+    desktop.files.Fails = {"Read", "Delete"};
+    desktop.files.Before = 1;
+    EXPECT_EQ(show(chunk + "more", chunk), Report("cannot Read", 5, "a fake"))
+        << "a line that was read is shown";
+    document.Form_Unload();
+    EXPECT_EQ(desktop.messages.TakeAll(), Texts{});
 }
 
 TEST(WithFailurePath, CleansUpThenReportsAnyExceptionOnce) {

@@ -4,7 +4,6 @@
 #include "fakes/desktop.h"
 #include "output/glb_util.h"
 #include "output/output_channels.h"
-#include "output/output_document.h"
 
 #include <tuple>
 
@@ -12,27 +11,22 @@ namespace orvane {
 
 using namespace fakes;
 
-/// The output window without its controls: shows the file, does what WhileOpen says, closes.
-struct ShownWindow : OutputWindow, OutputText {
-    ShownWindow(Platform& desktop, CommonDialog& dialog) : Document(desktop, dialog) {}
-
+/// The output window without its controls.
+struct ShownWindow : OutputWindow {
+    explicit ShownWindow(MemoryFiles& files) : Files(files) {}
     void OutputFileName(const std::string& strOutputFileName, bool temporary) override {
-        Document.OutputFileName(strOutputFileName, temporary);
+        Path = strOutputFileName;
+        Temporary = temporary;
     }
     void ShowModal() override {
         ++Shows;
-        Text.clear();
-        Document.Form_Load(*this);
-        if (WhileOpen)
-            WhileOpen();
-        Document.Form_Unload();
+        Text = Files.Contents[Path];
     }
-    void AppendLine(const std::string& text) override { Text += text + "\r\n"; }
-
-    OutputDocument Document;
+    MemoryFiles& Files;
+    std::string Path;
+    bool Temporary = false;
     std::string Text;
     int Shows = 0;
-    std::function<void()> WhileOpen;
 };
 
 /// The main window and the options window without their controls.
@@ -46,14 +40,13 @@ struct ListDesk : OptionsWindow, SampleSizeBox {
         settings.CodeAlphaNum = Numeric;
         settings.CodeLength = codeLength;
     }
-    /// Fixes the blocks, as a press of "OK" or "Cancel" does.
+    /// Fixes the blocks, as a press of "OK" does.
     void ShowModal() override {
-        settings.SelectedCmd = Closed;
         results.BlockSizes = {0};
         results.BlockSizes.insert(results.BlockSizes.end(), Blocks.begin(), Blocks.end());
     }
-    [[nodiscard]] std::string Text() const override { return SampleSizeText; }
-    void SetFocus() override { ++Focused; }
+    [[nodiscard]] std::string Text() const override { return ""; }
+    void SetFocus() override {}
 
     /// The first exchanges of the shuffle of a block of `size`, two positions each; the others change
     /// nothing. Without any, the groups stay as they were dealt: 1, 2, 1, 2 and so on.
@@ -89,14 +82,10 @@ struct ListDesk : OptionsWindow, SampleSizeBox {
     ListResults results;
     MemoryGrid grid;
     std::vector<std::int16_t> Blocks;
-    std::int16_t Closed = ClosedByOK;
-    std::string SampleSizeText;
-    int Focused = 0;
     SequenceBuilder builder{settings, results, grid, desktop.random, desktop.clock, desktop.messages};
     ReportContext context{settings, results, grid, builder, desktop.platform, 77};
     ScriptedDialog dialog;
-    ScriptedDialog windowDialog;
-    ShownWindow window{desktop.platform, windowDialog};
+    ShownWindow window{desktop.files};
     ListChannels channels{context, dialog, window};
     Generation generation{settings,         results,         *this,          channels,     *this,
                           desktop.messages, desktop.pointer, desktop.random, desktop.clock};
