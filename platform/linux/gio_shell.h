@@ -12,7 +12,8 @@ class GioShell : public Shell32 {
   public:
     /// `program` becomes the path of the program's desktop entry.
     std::int32_t FindExecutableA(const std::string& path, std::string& program) override;
-    /// Takes a desktop entry, by its path or its name, or the path of a program file.
+    /// Requires: `program` is the path of a desktop entry. An entry whose program is missing or cannot be run
+    /// is not started.
     std::int32_t ShellExecuteA(std::intptr_t owner, const std::string& program,
                                const std::string& path) override;
     void StartProgram(const std::string& path) override;

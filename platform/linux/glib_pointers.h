@@ -9,6 +9,7 @@ namespace orvane {
 
 struct GLibDeleter {
     void operator()(gchar* text) const { g_free(text); }
+    void operator()(gchar** texts) const { g_strfreev(texts); }
     void operator()(GError* error) const { g_error_free(error); }
     void operator()(GList* list) const { g_list_free(list); }
     template <typename Object>
@@ -17,7 +18,8 @@ struct GLibDeleter {
     }
 };
 
-/// Owns a text, an error, the links of a list, or a reference to an object.
+/// Owns a text, a list of texts that ends in null, an error, the links of a list, or a reference to an
+/// object.
 template <typename T>
 using GLibPointer = std::unique_ptr<T, GLibDeleter>;
 

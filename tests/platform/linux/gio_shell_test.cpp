@@ -25,6 +25,9 @@ class StubDesktop {
                                           part + " '" + folder.Path("told") + "'\n",
                                       true));
         Register("broken", folder.Put("bin/broken", "#! /no/such/interpreter\n", true));
+        Register("quoted", "\"" + folder.Path("bin/viewer") + "\"");
+        Register("variable", "env NAME=\"some value\" " + folder.Path("bin/viewer"));
+        Register("open", "\"" + folder.Path("bin/viewer"));
         folder.Put("config/mimeapps.list", "[Default Applications]\ntext/html=viewer.desktop\n"
                                            "text/plain=viewer.desktop\nimage/png=broken.desktop\n");
         ::setenv("XDG_DATA_HOME", folder.Path("data").c_str(), 1);
@@ -61,11 +64,13 @@ TEST(GioShell, StartsTheAssociatedProgramWithTheUntouchedPath) {
         const std::string path = desktop.folder.Put(name, "<html>");
         std::string program;
         ASSERT_GT(shell.FindExecutableA(path, program), 32) << name;
-        for (const std::string& form :
-             {program, std::string("viewer.desktop"), desktop.folder.Path("bin/viewer")}) {
+        for (const char* const entry : {"viewer", "quoted", "variable"}) {
+            const std::string form =
+                desktop.folder.Path(std::string("data/applications/") + entry + ".desktop");
             ASSERT_GT(shell.ShellExecuteA(0, form, path), 32) << form;
             EXPECT_EQ(desktop.Told(), "1\n" + path + "\n") << form;
         }
+        EXPECT_EQ(program, desktop.folder.Path("data/applications/viewer.desktop"));
     }
 }
 
@@ -79,7 +84,8 @@ TEST(GioShell, TellsWhatIsNotFoundFromWhatDoesNotStart) {
         EXPECT_LE(shell.FindExecutableA(path, program), 32) << path;
     EXPECT_EQ(program, "before");
     EXPECT_GT(shell.FindExecutableA(picture, program), 32);
-    for (const char* const form : {program.c_str(), "unknown.desktop", "/no/program", ""})
+    for (const std::string& form : {program, desktop.folder.Path("data/applications/open.desktop"),
+                                    std::string("/no/program"), std::string()})
         EXPECT_LE(shell.ShellExecuteA(0, form, picture), 32) << form;
 }
 
