@@ -11,20 +11,13 @@ namespace {
 
 constexpr std::int32_t Success = 0;
 constexpr std::int32_t FileNotFound = 2;
-constexpr std::int32_t InvalidHandle = 6;
 constexpr std::int32_t MoreData = 234;
-
-constexpr RegistryKey ToolKey = 1;
-constexpr const char* ToolPath = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
-constexpr const char* ToolValue = "PATH";
 
 /// The full path of the first system information program that is installed, else empty.
 std::string FindTool() {
-    for (const char* const name : {"kinfocenter", "hardinfo2", "hardinfo"}) {
-        const GLibPointer<gchar> found(g_find_program_in_path(name));
-        if (found)
+    for (const char* const name : {"kinfocenter", "hardinfo2", "hardinfo"})
+        if (const GLibPointer<gchar> found{g_find_program_in_path(name)})
             return found.get();
-    }
     return {};
 }
 
@@ -33,32 +26,27 @@ std::string FindTool() {
 std::int32_t LinuxRegistry::RegOpenKeyExA(std::uint32_t root, const std::string& path,
                                           std::uint32_t /*options*/, std::uint32_t /*access*/,
                                           RegistryKey& key) {
-    key = 0;
-    if (root != HKEY_LOCAL_MACHINE_ROOT || path != ToolPath || FindTool().empty())
-        return FileNotFound;
-    key = ToolKey;
-    return Success;
+    key = root == HKEY_LOCAL_MACHINE_ROOT && path == R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)" ? 1 : 0;
+    return key == 0 ? FileNotFound : Success;
 }
 
-std::int32_t LinuxRegistry::RegQueryValueExA(RegistryKey key, const std::string& name, std::uint32_t& type,
-                                             std::span<char> buffer, std::uint32_t& size) {
-    if (key != ToolKey)
-        return InvalidHandle;
+std::int32_t LinuxRegistry::RegQueryValueExA(RegistryKey /*key*/, const std::string& name,
+                                             std::uint32_t& type, std::span<char> buffer,
+                                             std::uint32_t& size) {
     const std::string tool = FindTool();
-    if (name != ToolValue || tool.empty())
+    if (name != "PATH" || tool.empty())
         return FileNotFound;
-    const std::size_t room = std::min<std::size_t>(size, buffer.size());
-    const std::size_t length = tool.size() + 1;
-    type = REGISTRY_TYPE_STRING;
-    size = static_cast<std::uint32_t>(length);
-    if (length > room)
+    const bool fits = tool.size() < std::min<std::size_t>(size, buffer.size());
+    size = static_cast<std::uint32_t>(tool.size() + 1);
+    if (!fits)
         return MoreData;
-    std::copy_n(tool.c_str(), length, buffer.begin());
+    type = REGISTRY_TYPE_STRING;
+    std::copy_n(tool.c_str(), size, buffer.begin());
     return Success;
 }
 
-std::int32_t LinuxRegistry::RegCloseKey(RegistryKey key) {
-    return key == ToolKey ? Success : InvalidHandle;
+std::int32_t LinuxRegistry::RegCloseKey(RegistryKey /*key*/) {
+    return Success;
 }
 
 } // namespace orvane

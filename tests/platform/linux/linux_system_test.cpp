@@ -31,16 +31,15 @@ TEST(LinuxRegistry, AnswersWithTheFirstSystemInformationProgram) {
     };
     const char* const path = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
     ::setenv("PATH", (folder.Path("bin") + ":/usr/bin:/bin").c_str(), 1);
-    EXPECT_EQ(open(path), 2);
-    EXPECT_EQ(key, 0U);
-    folder.Put("bin/hardinfo", "", true);
-    const std::string tool = folder.Put("bin/kinfocenter", "", true);
-    EXPECT_EQ(open(R"(SOFTWARE\Microsoft\Shared Tools Location)"), 2);
-    ASSERT_EQ(open(path), 0);
-
     std::array<char, 1024> buffer{};
     std::uint32_t type = 0;
     std::uint32_t size = buffer.size();
+    EXPECT_EQ(open(R"(SOFTWARE\Microsoft\Shared Tools Location)"), 2);
+    EXPECT_EQ(key, 0U);
+    ASSERT_EQ(open(path), 0);
+    EXPECT_EQ(registry.RegQueryValueExA(key, "PATH", type, buffer, size), 2);
+    folder.Put("bin/hardinfo", "", true);
+    const std::string tool = folder.Put("bin/kinfocenter", "", true);
     EXPECT_EQ(registry.RegQueryValueExA(key, "MSINFO", type, buffer, size), 2);
     size = static_cast<std::uint32_t>(tool.size()); // no room for the terminator
     EXPECT_EQ(registry.RegQueryValueExA(key, "PATH", type, buffer, size), 234);
