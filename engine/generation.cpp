@@ -7,8 +7,9 @@
 namespace orvane {
 
 void RefuseSampleSize(SampleSizeBox& box, MessageBox& messages) {
-    messages.Show(IsAboveSampleSizes(box.Text()) ? "the sample size can be at most 32767"
-                                                 : "please specify the sample size");
+    messages.Show(IsAboveSampleSizes(box.Text())
+                      ? "the sample size can be at most " + std::to_string(LargestList)
+                      : "please specify the sample size");
     box.SetFocus();
 }
 

@@ -21,7 +21,8 @@ class OptionsWindow {
 };
 
 /// The three ways in which a list leaves the program. Each runs its report and returns normally also after a
-/// failure, which it has reported itself.
+/// failure, which it has reported itself. Only a failure of OutputToWindow to find a name for its temporary
+/// file comes out, before the report begins.
 class OutputChannels {
   public:
     virtual ~OutputChannels() = default;

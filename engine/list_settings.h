@@ -17,12 +17,13 @@ inline constexpr std::int32_t LargestList = 32767;
 inline constexpr std::int32_t LargestBlock = 14654;
 inline constexpr std::int16_t LongestCode = 10;
 inline constexpr std::int16_t MostColumns = 10;
-inline constexpr std::int16_t WidestCellSpacing = 5;
 
-enum OutputOptions : std::int32_t { ToFile = 0, ToWindow = 1, ToClipboard = 2 };
+// The values of these four stand in settings files.
+enum ListDestinations : std::int32_t { ToFile = 0, ToWindow = 1, ToClipboard = 2 };
 enum BlockOptions : std::int32_t { OnlyOneBlock = 0, EqualSize = 1, RandomSizesOf = 2, RandomBlockSize = 3 };
 enum CodeAlphabets : std::int32_t { Alpha = 0, Numeric = 1, Mixed = 2 };
 enum CodeOrders : std::int32_t { Sequential = 0, Random = 1 };
+
 enum SelectedCommands : std::int16_t { NotClosedByButton = 0, ClosedByOK = 1, ClosedByCancel = 2 };
 
 /// The inputs. One instance lives as long as the program. The group names are no field of it: they live in

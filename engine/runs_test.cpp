@@ -5,23 +5,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace orvane {
 namespace {
 
-/// 0 for each position below the mean of the block, 1 for each at or above it.
-std::vector<std::int16_t> FlagsOf(std::span<const std::int16_t> IntArr) {
+float MeanOf(std::span<const std::int16_t> IntArr) {
     std::int32_t total = 0;
     for (const std::int16_t number : IntArr)
         total += number;
-    const auto mean = static_cast<float>(static_cast<double>(total) / static_cast<double>(IntArr.size()));
-
-    std::vector<std::int16_t> flags(IntArr.size());
-    std::transform(IntArr.begin(), IntArr.end(), flags.begin(), [mean](std::int16_t number) {
-        return static_cast<std::int16_t>(static_cast<float>(number) < mean ? 0 : 1);
-    });
-    return flags;
+    return static_cast<float>(static_cast<double>(total) / static_cast<double>(IntArr.size()));
 }
 
 /// The statistic is 0 divided by 0 for a block of one position, for a block of two positions, one on each
@@ -44,29 +36,39 @@ std::int16_t GetIntName(const MSFlexGrid& groupNames, const std::string& strName
     return 0;
 }
 
-RunsTestResult GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& messages) {
+std::vector<std::int16_t> GroupNumbers(const MSFlexGrid& groupNames, std::int16_t numberOfGroups) {
+    std::vector<std::int16_t> numbers{0};
+    for (std::int16_t g = 1; g <= numberOfGroups; ++g)
+        numbers.push_back(GetIntName(groupNames, groupNames.TextMatrix(g, 1)));
+    return numbers;
+}
+
+float GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& messages) {
     try {
-        return {RunsPValue(RunsStatistic(CountRuns(IntArr))), true};
+        return RunsPValue(RunsStatistic(CountRuns(IntArr)));
     } catch (const Failure& failure) {
         if (failure.Number == failure_number::Arithmetic)
             messages.Show("Insufficient memory to perform statistics");
     } catch (const std::exception&) {
         // No message for other failures, such as no memory: the result tells that the test failed.
     }
-    return {0, false};
+    return 0;
 }
 
+// Needs no memory, so that a test cannot fail for lack of it.
 RunsCounts CountRuns(std::span<const std::int16_t> IntArr) {
     if (IntArr.empty())
         return {0, 0, 0};
-    const std::vector<std::int16_t> flags = FlagsOf(IntArr);
+    const float mean = MeanOf(IntArr);
+    const auto isBelow = [mean](std::int16_t number) { return static_cast<float>(number) < mean; };
     RunsCounts counts{0, 0, 1};
-    std::int16_t current = flags.front();
-    for (const std::int16_t flag : flags) {
-        if (flag != current)
+    bool current = isBelow(IntArr.front());
+    for (const std::int16_t number : IntArr) {
+        const bool below = isBelow(number);
+        if (below != current)
             counts.runs = Add16(counts.runs, 1);
-        current = flag;
-        ++(flag == 0 ? counts.n0 : counts.n1);
+        current = below;
+        ++(below ? counts.n0 : counts.n1);
     }
     return counts;
 }

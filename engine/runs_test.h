@@ -10,20 +10,20 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace orvane {
 
 /// The group number of a name: the first row of the grid that holds it, 0 when none does.
 std::int16_t GetIntName(const MSFlexGrid& groupNames, const std::string& strName);
 
-struct RunsTestResult {
-    float PValue;  ///< 0 when the test failed
-    bool Computed; ///< false when the test failed, whatever the cause
-};
+/// GetIntName of the name of each group, group g in slot g; slot 0 is no group. So groups of the same name
+/// have the same number.
+std::vector<std::int16_t> GroupNumbers(const MSFlexGrid& groupNames, std::int16_t numberOfGroups);
 
-/// The P value of a block, `IntArr` holding the group number of each position. Catches every failure within
-/// itself; when the statistic has no value (0 divided by 0), it says so in a message.
-RunsTestResult GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& messages);
+/// The P value of a block, `IntArr` holding the group number of each position. 0 after a failure, whatever
+/// its cause; when the statistic has no value (0 divided by 0), a message says so.
+float GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& messages);
 
 /// The counts that the test rests on.
 struct RunsCounts {

@@ -47,7 +47,7 @@ void SequenceBuilder::BuildSequenceArr(std::vector<std::string>& ArrStr,
     std::vector<std::uint8_t> groups = DealGroups(size, settings_.NumberOfGroups);
     BlockCodeArr.assign(results_.CodeArr.begin() + OffSet,
                         results_.CodeArr.begin() + OffSet + static_cast<std::ptrdiff_t>(size));
-    ShuffleUntilAccepted(groups, names);
+    ShuffleUntilAccepted(groups);
 
     std::transform(groups.begin(), groups.end(), ArrStr.begin(),
                    [&](std::uint8_t group) { return names[group]; });
@@ -62,22 +62,18 @@ std::vector<std::string> SequenceBuilder::GroupNames() const {
     return names;
 }
 
-void SequenceBuilder::ShuffleUntilAccepted(std::vector<std::uint8_t>& groups,
-                                           const std::vector<std::string>& names) {
-    // Groups of the same name count as one group in the test.
-    std::vector<std::int16_t> numberOfName(names.size());
-    std::vector<std::int16_t> numbers(groups.size());
+void SequenceBuilder::ShuffleUntilAccepted(std::vector<std::uint8_t>& groups) {
+    std::vector<std::int16_t> numberOfGroup;
     if (settings_.PerformRuns)
-        std::transform(names.begin(), names.end(), numberOfName.begin(),
-                       [this](const std::string& name) { return GetIntName(groupNames_, name); });
-
+        numberOfGroup = GroupNumbers(groupNames_, settings_.NumberOfGroups);
+    std::vector<std::int16_t> numbers(groups.size());
     for (int attempt = 0; attempt < MostAttempts; ++attempt) {
         random_.UniformReseed(clock_.SecondsSinceMidnight());
         ShuffleBlock(random_, groups);
         if (!settings_.PerformRuns)
             return;
         std::transform(groups.begin(), groups.end(), numbers.begin(),
-                       [&](std::uint8_t group) { return numberOfName[group]; });
+                       [&](std::uint8_t group) { return numberOfGroup[group]; });
         if (IsAccepted(numbers))
             return;
     }
@@ -87,20 +83,17 @@ void SequenceBuilder::ShuffleUntilAccepted(std::vector<std::uint8_t>& groups,
 }
 
 bool SequenceBuilder::IsAccepted(std::span<const std::int16_t> numbers) {
-    const RunsTestResult result = GetRandomness(numbers, messages_);
-    results_.LastPValue = result.PValue;
-    if (result.Computed && result.PValue > settings_.SigLevel) {
-        results_.MaxPValue = std::max(results_.MaxPValue, result.PValue);
-        results_.MinPValue = std::min(results_.MinPValue, result.PValue);
+    const float PValue = GetRandomness(numbers, messages_);
+    results_.LastPValue = PValue;
+    if (PValue > settings_.SigLevel) {
+        results_.MaxPValue = std::max(results_.MaxPValue, PValue);
+        results_.MinPValue = std::min(results_.MinPValue, PValue);
         return true;
     }
     if (!CanPassRunsTest(numbers, settings_.SigLevel))
         throw Failure("A block of " + std::to_string(numbers.size()) +
                           " subjects cannot pass the Runs test at level " + SevenDigits(settings_.SigLevel),
                       failure_number::CannotPassRunsTest, "BuildSequenceArr");
-    if (!result.Computed)
-        throw Failure("The Runs test of a block could not be done", failure_number::OutOfMemory,
-                      "BuildSequenceArr");
     return false;
 }
 

@@ -36,7 +36,7 @@ class SequenceBuilder {
   private:
     /// The names of the groups, the name of group g in slot g; slot 0 is empty.
     [[nodiscard]] std::vector<std::string> GroupNames() const;
-    void ShuffleUntilAccepted(std::vector<std::uint8_t>& groups, const std::vector<std::string>& names);
+    void ShuffleUntilAccepted(std::vector<std::uint8_t>& groups);
     /// Tests one arrangement, `numbers` holding the group number of each position. Throws when no arrangement
     /// of this block can ever pass.
     bool IsAccepted(std::span<const std::int16_t> numbers);

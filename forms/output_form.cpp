@@ -3,43 +3,30 @@
 #include "forms/event_guard.h"
 #include "forms/modal_window.h"
 #include "forms/qt_text.h"
-#include "platform/failure.h"
 #include "ui_output_form.h"
 
 #include <QKeyEvent>
 
-#include <algorithm>
-#include <cstddef>
 #include <string>
 
 namespace orvane {
 
 namespace {
 
-/// Gathers the lines, since a text box lays itself out anew for each one that it is given. A list has about
-/// 100000 lines at most; with millions of them the box would eat up the memory.
-class GatheredText : public OutputText {
+/// Gathers the lines, since a text box lays itself out anew for each one that it is given.
+class GatheredText : public TextBox {
   public:
-    void AppendLine(const std::string& text) override {
-        // The box ends a line at a lone line feed too.
-        lines_ += 1 + std::count(text.begin(), text.end(), '\n');
-        if (lines_ > MostLines)
-            throw Failure("The file has too many lines to be shown as a whole", failure_number::TooLarge,
-                          "OutputFrm");
-        text_.append(text).push_back('\n');
-    }
+    void AppendLine(const std::string& text) override { text_.append(text).push_back('\n'); }
     [[nodiscard]] const std::string& Text() const { return text_; }
 
   private:
-    static constexpr std::ptrdiff_t MostLines = 1 << 18;
     std::string text_;
-    std::ptrdiff_t lines_ = 0;
 };
 
 /// The window of one opening.
-class OutputDialog : public ModalWindow {
+class ListWindow : public ModalWindow {
   public:
-    OutputDialog(OutputDocument& document, Platform& desktop);
+    ListWindow(ShownFile& file, Platform& desktop);
     void Form_Load();
 
   protected:
@@ -47,32 +34,32 @@ class OutputDialog : public ModalWindow {
 
   private:
     void CloseCmd_Click() { close(); }
+    void SaveCmd_Click() { file_.SaveAs(); }
 
-    OutputDocument& document_;
+    ShownFile& file_;
     EventGuard guard_;
     Ui::OutputFrm ui_{};
 };
 
-OutputDialog::OutputDialog(OutputDocument& document, Platform& desktop)
+ListWindow::ListWindow(ShownFile& file, Platform& desktop)
     : ModalWindow(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
                   Qt::WindowCloseButtonHint),
-      document_(document), guard_(desktop.Messages, desktop.Pointer) {
+      file_(file), guard_(desktop.Messages, desktop.Pointer) {
     ui_.setupUi(this);
     connect(ui_.CloseCmd, &QPushButton::clicked, this,
             [this] { guard_.Handle([this] { CloseCmd_Click(); }); });
-    connect(ui_.SaveCmd, &QPushButton::clicked, this,
-            [this] { guard_.Handle([this] { document_.SaveCmd_Click(); }); });
+    connect(ui_.SaveCmd, &QPushButton::clicked, this, [this] { guard_.Handle([this] { SaveCmd_Click(); }); });
     ui_.OutputTxt->setFocus();
 }
 
-void OutputDialog::Form_Load() {
+void ListWindow::Form_Load() {
     GatheredText text;
-    document_.Form_Load(text);
+    file_.ReadInto(text);
     ui_.OutputTxt->setPlainText(ToQString(text.Text()));
 }
 
 /// Esc closes a dialog of the toolkit, not this window.
-void OutputDialog::keyPressEvent(QKeyEvent* event) {
+void ListWindow::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel))
         event->ignore();
     else
@@ -84,10 +71,10 @@ void OutputDialog::keyPressEvent(QKeyEvent* event) {
 void OutputForm::ShowModal() {
     // Whatever becomes of the window, its temporary file goes.
     const struct Unload {
-        OutputDocument& document;
-        ~Unload() { document.Form_Unload(); }
-    } unload{document_};
-    OutputDialog window(document_, desktop_);
+        ShownFile& file;
+        ~Unload() { file.DeleteIfTemporary(); }
+    } unload{file_};
+    ListWindow window(file_, desktop_);
     window.Form_Load();
     window.ShowModal();
 }

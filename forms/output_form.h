@@ -1,7 +1,7 @@
 // The window that shows a list: made for it by the report, or saved earlier.
 #pragma once
 
-#include "output/output_document.h"
+#include "output/shown_file.h"
 #include "output/window_report.h"
 #include "platform/common_dialog.h"
 #include "platform/platform.h"
@@ -13,10 +13,10 @@ namespace orvane {
 class OutputForm : public OutputWindow {
   public:
     /// `CMDialog` is this window's own prompt.
-    OutputForm(Platform& desktop, CommonDialog& CMDialog) : desktop_(desktop), document_(desktop, CMDialog) {}
+    OutputForm(Platform& desktop, CommonDialog& CMDialog) : desktop_(desktop), file_(desktop, CMDialog) {}
 
     void OutputFileName(const std::string& strOutputFileName, bool temporary) override {
-        document_.OutputFileName(strOutputFileName, temporary);
+        file_.OutputFileName(strOutputFileName, temporary);
     }
     /// A file that cannot be read is reported, and the window opens with the lines read by then. A temporary
     /// file is gone on return.
@@ -24,7 +24,7 @@ class OutputForm : public OutputWindow {
 
   private:
     Platform& desktop_;
-    OutputDocument document_;
+    ShownFile file_;
 };
 
 } // namespace orvane

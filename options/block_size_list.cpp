@@ -39,7 +39,7 @@ std::int16_t ValueOf(const std::string& digits) {
 
 void AppendCandidate(std::vector<std::int16_t>& pool, std::int16_t size) {
     if (pool.size() > Most16)
-        throw TooMany("more than 32767 block sizes");
+        throw TooMany("more than " + std::to_string(Most16) + " block sizes");
     pool.push_back(size);
 }
 
@@ -50,7 +50,7 @@ bool BlockSizeList::NotValid(const std::string& InpStr) {
         return true;
     // Characters are counted in 16 bits, and the count takes one step past the last of them.
     if (CharacterCount(InpStr) >= Most16)
-        throw TooMany("a list of block sizes of 32767 or more characters");
+        throw TooMany("a list of block sizes of " + std::to_string(Most16) + " or more characters");
     const std::string S = RemoveSpaces(InpStr);
     return !ValidChars(S) || !BuildArr(S);
 }
@@ -68,11 +68,15 @@ bool BlockSizeList::ValidChars(const std::string& S) {
 
 bool BlockSizeList::BuildArr(const std::string& S) {
     std::vector<std::int16_t> pool{0};
-    if (!ExpandItems(S, pool))
-        return Refuse("Error in the value of block sizes");
+    if (!ExpandItems(S, pool)) {
+        TellFault("Error in the value of block sizes");
+        return false;
+    }
     const std::int16_t groups = settings_.NumberOfGroups;
-    if (std::any_of(pool.begin(), pool.end(), [groups](std::int16_t size) { return size % groups != 0; }))
-        return Refuse("block sizes must be divisable by the number of groups");
+    if (std::any_of(pool.begin(), pool.end(), [groups](std::int16_t size) { return size % groups != 0; })) {
+        TellFault("block sizes must be divisable by the number of groups");
+        return false;
+    }
     DrawBlocks(pool);
     return true;
 }
@@ -106,10 +110,9 @@ void BlockSizeList::GetMinMax(const std::string& S, std::int16_t& min, std::int1
     max = ValueOf(ends[1]);
 }
 
-bool BlockSizeList::Refuse(const std::string& message) {
+void BlockSizeList::TellFault(const std::string& message) {
     messages_.Show(message);
     controls_.FocusUnEqBlockSizeTxt();
-    return false;
 }
 
 void BlockSizeList::DrawBlocks(const std::vector<std::int16_t>& pool) {

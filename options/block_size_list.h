@@ -43,7 +43,8 @@ class BlockSizeList {
   private:
     /// False at the first item without a value. Slot 0 of the pool is no candidate.
     static bool ExpandItems(const std::string& S, std::vector<std::int16_t>& pool);
-    bool Refuse(const std::string& message);
+    /// Shows the message and puts the focus on the field.
+    void TellFault(const std::string& message);
     void DrawBlocks(const std::vector<std::int16_t>& pool);
 
     const ListSettings& settings_;

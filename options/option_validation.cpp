@@ -3,7 +3,6 @@
 #include "engine/numbers.h"
 #include "engine/random_draws.h"
 #include "options/list_refusal.h"
-#include "platform/failure.h"
 
 #include <algorithm>
 #include <concepts>
@@ -14,24 +13,16 @@ namespace orvane {
 
 namespace {
 
+constexpr std::int32_t LargestBlockSize = std::numeric_limits<std::int16_t>::max();
 constexpr double HighestLevel = 0.3;
 constexpr std::int16_t StatisticsTab = 4;
 
-bool IsNumeric(const Failure& failure) {
-    return failure.Number == failure_number::Overflow || failure.Number == failure_number::Arithmetic ||
-           failure.Number == failure_number::OutOfRange;
-}
-
-/// Whether `judge` finds fault. Numbers that it cannot work with are a fault of what the user typed. Any
-/// other failure, such as a random source that has nothing to draw from, is no answer and goes on to the
-/// window.
+/// Whether `judge` finds fault. A failure of any kind counts as a fault.
 template <std::predicate Judge>
 bool FindsFault(Judge&& judge) {
     try {
         return judge();
-    } catch (const Failure& failure) {
-        if (!IsNumeric(failure))
-            throw;
+    } catch (...) {
         return true;
     }
 }
@@ -80,8 +71,8 @@ bool OptionValidation::EqualSizeRefused() {
     const std::int32_t size = ToInt32(NumericValue(text));
     if (size == 0)
         return Refuse("please specify the block size", field);
-    if (size > std::numeric_limits<std::int16_t>::max())
-        return Refuse("the block size can be at most 32767", field);
+    if (size > LargestBlockSize)
+        return Refuse("the block size can be at most " + std::to_string(LargestBlockSize), field);
     return false;
 }
 

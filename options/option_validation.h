@@ -29,9 +29,10 @@ class OptionValidation {
     void TakeSnapshot() { snapshot_ = OptionSnapshot(settings_); }
 
     /// True when the options were refused, after the messages of one fault; False when they are valid and
-    /// BlockSizes holds a list that can be made. SampleSize must be above 0. A number that cannot be worked
-    /// with counts as a fault. Other failures, as of the random source, come out. After a refusal or a
+    /// BlockSizes holds a list that can be made. A failure of any kind in the judgement of a field counts as
+    /// a fault of that field; a failure in drawing blocks of random size comes out. After a refusal or a
     /// failure BlockSizes may hold anything; the next call starts anew.
+    /// Requires: SampleSize is above 0.
     bool NotValidInputs();
 
     /// Leaves the window open after a refusal. Otherwise shows the busy pointer, for the opener to take back,
@@ -43,6 +44,7 @@ class OptionValidation {
 
   private:
     using Focus = void (OptionsControls::*)();
+    /// Shows the message, puts the focus on the field and returns true.
     bool Refuse(const std::string& message, Focus focus);
     bool BlocksRefused();
     bool EqualSizeRefused();

@@ -6,10 +6,14 @@
 #include "engine/sequence_builder.h"
 #include "platform/code_page.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
 namespace orvane {
+
+/// Characters from the start of one column of a text to the start of the next.
+inline constexpr std::size_t ColumnDistance = 20;
 
 /// What one report writes at each step of the walk. Columns count from 1.
 class CellProductions {

@@ -10,7 +10,6 @@ namespace orvane {
 
 namespace {
 
-constexpr std::size_t WidestColumn = 20;
 constexpr std::size_t WidestRow = 150;
 
 /// Collects the list, every cell filled up with blanks to the width of its column.
@@ -53,7 +52,7 @@ class FilledUpCells : public CellProductions {
 };
 
 std::size_t ColumnWidth(const ListSettings& settings) {
-    return std::min(WidestColumn, WidestRow / static_cast<std::size_t>(GetMaxCol(settings)));
+    return std::min(ColumnDistance, WidestRow / static_cast<std::size_t>(GetMaxCol(settings)));
 }
 
 } // namespace

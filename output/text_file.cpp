@@ -15,7 +15,8 @@ constexpr std::size_t ChunkSize = std::size_t{1} << 16U;
 
 } // namespace
 
-TextFileWriter::TextFileWriter(std::unique_ptr<OutputFile> file, const CodePage& page, Unmappable unmappable)
+TextFileWriter::TextFileWriter(std::unique_ptr<WritableFile> file, const CodePage& page,
+                               Unmappable unmappable)
     : file_(std::move(file)), page_(page), unmappable_(unmappable) {}
 
 TextFileWriter::~TextFileWriter() {
@@ -40,7 +41,7 @@ void TextFileWriter::WriteLine(std::string_view text) {
 
 void TextFileWriter::Close() {
     Flush();
-    const std::unique_ptr<OutputFile> file = std::move(file_);
+    const std::unique_ptr<WritableFile> file = std::move(file_);
     file->Close();
 }
 
@@ -51,8 +52,9 @@ void TextFileWriter::Flush() {
         file_->Write(bytes);
 }
 
-TextFileReader::TextFileReader(std::unique_ptr<InputFile> file, const CodePage& page, std::string path)
-    : file_(std::move(file)), page_(page), path_(std::move(path)) {}
+TextFileReader::TextFileReader(std::unique_ptr<ReadableFile> file, const CodePage& page, std::string path,
+                               LineRules rules)
+    : file_(std::move(file)), page_(page), path_(std::move(path)), rules_(rules) {}
 
 bool TextFileReader::AtEnd() {
     SkipLineFeed();
@@ -71,22 +73,27 @@ void TextFileReader::SkipLineFeed() {
 std::string TextFileReader::ReadLine() {
     if (AtEnd())
         throw Failure("The file " + path_ + " ends too early", failure_number::EndOfFile, "reading a line");
-    std::size_t end = buffer_.find('\r', next_);
+    std::size_t end = LineEndFrom(next_);
     while (end == std::string::npos) {
         const std::size_t searched = buffer_.size() - next_;
-        if (searched > LongestLine || !Fill())
+        if (searched > rules_.LongestLine || !Fill())
             break;
-        end = buffer_.find('\r', searched);
+        end = LineEndFrom(searched);
     }
     const bool ended = end != std::string::npos;
     const std::size_t length = (ended ? end : buffer_.size()) - next_;
-    if (length > LongestLine)
-        throw Failure("A line of the file " + path_ + " is too long", failure_number::TooLarge,
-                      "reading a line");
+    if (length > rules_.LongestLine)
+        throw Failure("A line of the file " + path_ + " is longer than " +
+                          std::to_string(rules_.LongestLine) + " characters",
+                      failure_number::TooLarge, "reading a line");
     std::string line = page_.Decode(std::string_view(buffer_).substr(next_, length));
     next_ += length + (ended ? 1 : 0);
-    behindReturn_ = ended;
+    behindReturn_ = ended && buffer_[end] == '\r';
     return line;
+}
+
+std::size_t TextFileReader::LineEndFrom(std::size_t from) const {
+    return rules_.LineFeedEndsLine ? buffer_.find_first_of(LineEnd, from) : buffer_.find('\r', from);
 }
 
 bool TextFileReader::Fill() {
@@ -94,6 +101,11 @@ bool TextFileReader::Fill() {
     next_ = 0;
     std::array<char, ChunkSize> chunk{};
     const std::size_t count = file_->Read(std::span<char>(chunk));
+    read_ += count;
+    if (read_ > rules_.LargestFile)
+        throw Failure("The file " + path_ + " is larger than " + std::to_string(rules_.LargestFile) +
+                          " bytes and is not read to its end",
+                      failure_number::TooLarge, "reading a line");
     buffer_.append(chunk.data(), count);
     return count > 0;
 }

@@ -7,8 +7,6 @@ namespace orvane {
 
 namespace {
 
-/// From the start of one column to the start of the next, whatever the number of columns.
-constexpr std::size_t ColumnDistance = 20;
 constexpr std::int32_t BlankWidth = 1;
 
 void WriteTextList(const ReportContext& context, const std::string& S) {

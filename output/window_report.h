@@ -18,7 +18,8 @@ class OutputWindow {
 };
 
 /// Writes the list into a new file of a random name in the program's directory and shows it in the window.
-/// Reports a failure itself and returns normally; a file already begun stays.
+/// A failure to find a free name comes out, with no file made. Reports any other failure itself and returns
+/// normally; a file already begun stays.
 void OutputToWindow(const ReportContext& context, OutputWindow& window);
 
 } // namespace orvane

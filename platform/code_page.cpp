@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <set>
 #include <utility>
 
 namespace orvane {
@@ -83,6 +84,11 @@ std::string CodePoint(char32_t character) {
     return "U+" + digits;
 }
 
+/// The character in quotes and its code point, for messages.
+std::string Named(char32_t character) {
+    return "\"" + Utf8(character) + "\" (" + CodePoint(character) + ")";
+}
+
 } // namespace
 
 CodePage::CodePage(std::string name, const std::array<char32_t, 256>& characters) : name_(std::move(name)) {
@@ -113,11 +119,21 @@ std::string CodePage::Encode(std::string_view text, Unmappable unmappable) const
         else if (unmappable == Unmappable::QuestionMark)
             bytes += '?';
         else
-            throw Failure("The character \"" + Utf8(character) + "\" (" + CodePoint(character) +
-                              ") is not in the code page " + name_,
+            throw Failure("The character " + Named(character) + " is not in the code page " + name_,
                           failure_number::UnmappableCharacter, "CodePage");
     }
     return bytes;
+}
+
+std::vector<std::string> CodePage::CharactersNotHeld(std::string_view text) const {
+    std::vector<std::string> named;
+    std::set<char32_t> seen;
+    for (std::size_t index = 0; index < text.size();) {
+        const char32_t character = NextCharacter(text, index);
+        if (!bytes_.contains(character) && seen.insert(character).second)
+            named.push_back(Named(character));
+    }
+    return named;
 }
 
 std::string CodePage::Decode(std::string_view bytes) const {

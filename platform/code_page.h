@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orvane {
 
@@ -26,6 +27,9 @@ class CodePage {
 
     /// `text` in bytes of the page, one a character.
     [[nodiscard]] std::string Encode(std::string_view text, Unmappable unmappable) const;
+
+    /// The characters of `text` that the page cannot hold, each once, as they are named in messages.
+    [[nodiscard]] std::vector<std::string> CharactersNotHeld(std::string_view text) const;
 
     /// The text of `bytes`, one character a byte.
     [[nodiscard]] std::string Decode(std::string_view bytes) const;

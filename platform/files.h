@@ -11,20 +11,20 @@
 
 namespace orvane {
 
-class OutputFile {
+class WritableFile {
   public:
     /// Closes the file if Close was not called; what was written stays, and a failure of that close is
     /// silent.
-    virtual ~OutputFile() = default;
+    virtual ~WritableFile() = default;
     /// Appends all of `bytes` or throws; after a failure the file holds as much as could be written.
     virtual void Write(std::string_view bytes) = 0;
     /// Closes the file, or throws; closed either way.
     virtual void Close() = 0;
 };
 
-class InputFile {
+class ReadableFile {
   public:
-    virtual ~InputFile() = default;
+    virtual ~ReadableFile() = default;
     /// Reads up to buffer.size() bytes; the number read, 0 at the end of the file.
     virtual std::size_t Read(std::span<char> buffer) = 0;
 };
@@ -33,11 +33,11 @@ class Files {
   public:
     virtual ~Files() = default;
     /// Creates the file or empties an existing one. After a failure an existing file is as it was.
-    virtual std::unique_ptr<OutputFile> OpenForOutput(const std::string& path) = 0;
+    virtual std::unique_ptr<WritableFile> OpenForOutput(const std::string& path) = 0;
     /// Creates a file that did not exist, readable and writable by its owner alone; an existing name, a link
     /// too, is a failure and is not followed.
-    virtual std::unique_ptr<OutputFile> CreatePrivate(const std::string& path) = 0;
-    virtual std::unique_ptr<InputFile> OpenForInput(const std::string& path) = 0;
+    virtual std::unique_ptr<WritableFile> CreatePrivate(const std::string& path) = 0;
+    virtual std::unique_ptr<ReadableFile> OpenForInput(const std::string& path) = 0;
     /// Copies `from` to `to`, replacing a file of that name; a file copied onto itself stays as it is.
     virtual void Copy(const std::string& from, const std::string& to) = 0;
     virtual void Delete(const std::string& path) = 0;

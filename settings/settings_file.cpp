@@ -11,6 +11,7 @@ namespace orvane {
 namespace {
 
 constexpr float DefaultSigLevel = 0.05F;
+constexpr char CarriageReturn = '\r';
 
 namespace label {
 constexpr const char* NumberOfGroups = "[Number of groups (2 - 16]";
@@ -51,34 +52,64 @@ void SettingsFile::SaveSettings(const std::string& FileNameStr, bool Announce, U
     WithFailurePath(desktop_.Messages, false, [&] {
         if (unmappable == Unmappable::Fail)
             RequireWritableTexts();
+        RequireReadableSize();
         TextFileWriter file(desktop_.FileSystem.OpenForOutput(FileNameStr), desktop_.Page, unmappable);
         WriteValues(file);
         file.Close();
+        TellReplaced();
         if (Announce)
             desktop_.Messages.Show("Settings were saved successfully!");
     });
 }
 
+std::vector<std::string> SettingsFile::TypedTexts() const {
+    std::vector<std::string> texts{settings_.prEqBlockSize, settings_.prUnEqBlockSize};
+    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g)
+        texts.push_back(groupNames_.TextMatrix(g, 1));
+    return texts;
+}
+
 void SettingsFile::RequireWritableTexts() const {
-    const auto require = [this](const std::string& text) {
-        if (text.find('\r') != std::string::npos)
+    for (const std::string& text : TypedTexts()) {
+        if (text.find(CarriageReturn) != std::string::npos)
             throw Failure("A line end cannot be saved within a line of a settings file",
                           failure_number::UnmappableCharacter, "SaveSettings");
-        if (desktop_.Page.Encode(text, Unmappable::Fail).size() > TextFileReader::LongestLine)
-            throw Failure(
-                "A text of more than 65536 characters cannot be saved in a settings file, please shorten it",
-                failure_number::TooLarge, "SaveSettings");
-    };
-    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g)
-        require(groupNames_.TextMatrix(g, 1));
-    require(settings_.prEqBlockSize);
-    require(settings_.prUnEqBlockSize);
+        static_cast<void>(desktop_.Page.Encode(text, Unmappable::Fail));
+    }
+}
+
+void SettingsFile::RequireReadableSize() const {
+    constexpr std::size_t forAllElse = 1024; // labels, numbers and line ends
+    std::size_t size = forAllElse;
+    for (const std::string& text : TypedTexts())
+        size += desktop_.Page.Encode(text, Unmappable::QuestionMark).size();
+    if (size > LargestFile)
+        throw Failure("The names of the groups and the block sizes have more than " +
+                          std::to_string(LargestFile - forAllElse) +
+                          " characters together and were not saved, please shorten them",
+                      failure_number::TooLarge, "SaveSettings");
+}
+
+void SettingsFile::TellReplaced() const {
+    std::string all;
+    for (const std::string& text : TypedTexts())
+        all += text;
+    std::vector<std::string> replaced = desktop_.Page.CharactersNotHeld(all);
+    if (all.find(CarriageReturn) != std::string::npos)
+        replaced.emplace_back("a line end");
+    std::string named;
+    for (const std::string& character : replaced)
+        named += (named.empty() ? "" : ", ") + character;
+    if (!named.empty())
+        throw Failure("Characters that a settings file in the code page " + desktop_.Page.Name() +
+                          " cannot hold were saved as \"?\": " + named,
+                      failure_number::UnmappableCharacter, "SaveSettings");
 }
 
 void SettingsFile::WriteValues(TextFileWriter& file) {
     // A carriage return would end the line early, and all values behind it would slide.
     const auto writeText = [&file](std::string text) {
-        std::replace(text.begin(), text.end(), '\r', '?');
+        std::replace(text.begin(), text.end(), CarriageReturn, '?');
         file.WriteLine(text);
     };
     WriteNumber(file, label::NumberOfGroups, settings_.NumberOfGroups);
@@ -112,7 +143,8 @@ void SettingsFile::SetSettings(const std::string& FileNameStr, bool Announce) {
 }
 
 void SettingsFile::ReadValues(const std::string& FileNameStr) {
-    TextFileReader file(desktop_.FileSystem.OpenForInput(FileNameStr), desktop_.Page, FileNameStr);
+    TextFileReader file(desktop_.FileSystem.OpenForInput(FileNameStr), desktop_.Page, FileNameStr,
+                        {false, LargestFile, LargestFile});
     controls_.SetNogHsb(Read16(file));
     file.ReadLine();
     groupNames_.SetCol(1);

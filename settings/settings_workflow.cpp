@@ -19,13 +19,20 @@ void SettingsWorkflow::AtStart() {
 
 void SettingsWorkflow::AtEnd() {
     const std::string path = desktop_.BesideProgram(SavedSettings);
+    WithFailurePath(desktop_.Messages, false, [&] {
+        file_.RequireReadableSize();
+        DeleteIfPossible(path);
+        file_.SaveSettings(path, false, Unmappable::QuestionMark);
+    });
+}
+
+void SettingsWorkflow::DeleteIfPossible(const std::string& path) {
     try {
         desktop_.FileSystem.Delete(path);
     } catch (const Failure&) {
-        // The file may be missing; what else is in the way is in the way of the writing too, which reports
+        // The file may be missing; what else prevents the deletion prevents the writing too, which reports
         // it.
     }
-    file_.SaveSettings(path, false, Unmappable::QuestionMark);
 }
 
 void SettingsWorkflow::LoadSettings() {

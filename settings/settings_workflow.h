@@ -16,8 +16,10 @@ class SettingsWorkflow {
 
     /// Reads saved.stg beside the program, without a message on success.
     void AtStart();
-    /// Writes saved.stg anew from the live state, "?" for what the code page cannot hold. Without a message
-    /// on success; after a reported failure the file is gone or incomplete.
+    /// Writes saved.stg anew from the live state. Without a message when all could be saved. Reports a
+    /// failure itself: texts that are too large to be read again leave the old file as it is, characters that
+    /// the code page cannot hold are in the file as "?", after any other failure the file is gone or
+    /// incomplete.
     void AtEnd();
 
     /// Ask for a file, read it or write it, and say so. A cancel ends them without a word.
@@ -29,6 +31,8 @@ class SettingsWorkflow {
     std::string GetSaveAsFile();
 
   private:
+    void DeleteIfPossible(const std::string& path);
+
     SettingsFile& file_;
     CommonDialog& CMDialog_;
     Platform& desktop_;

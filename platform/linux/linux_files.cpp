@@ -139,9 +139,9 @@ class RegularFile {
     FileNumber number_;
 };
 
-class LinuxOutputFile : public OutputFile {
+class LinuxWritableFile : public WritableFile {
   public:
-    LinuxOutputFile(const std::string& path, int flags, mode_t mode)
+    LinuxWritableFile(const std::string& path, int flags, mode_t mode)
         : file_(path, O_WRONLY | O_CREAT | flags, mode) {
         file_.Empty();
     }
@@ -152,9 +152,9 @@ class LinuxOutputFile : public OutputFile {
     RegularFile file_;
 };
 
-class LinuxInputFile : public InputFile {
+class LinuxReadableFile : public ReadableFile {
   public:
-    explicit LinuxInputFile(const std::string& path) : file_(path, O_RDONLY, 0) {}
+    explicit LinuxReadableFile(const std::string& path) : file_(path, O_RDONLY, 0) {}
     std::size_t Read(std::span<char> buffer) override { return file_.Read(buffer); }
 
   private:
@@ -167,23 +167,23 @@ LinuxFiles::LinuxFiles() {
     static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
 }
 
-std::unique_ptr<OutputFile> LinuxFiles::OpenForOutput(const std::string& path) {
-    return std::make_unique<LinuxOutputFile>(path, 0, AnyoneByMask);
+std::unique_ptr<WritableFile> LinuxFiles::OpenForOutput(const std::string& path) {
+    return std::make_unique<LinuxWritableFile>(path, 0, AnyoneByMask);
 }
 
-std::unique_ptr<OutputFile> LinuxFiles::CreatePrivate(const std::string& path) {
-    return std::make_unique<LinuxOutputFile>(path, O_EXCL | O_NOFOLLOW, OwnerAlone);
+std::unique_ptr<WritableFile> LinuxFiles::CreatePrivate(const std::string& path) {
+    return std::make_unique<LinuxWritableFile>(path, O_EXCL | O_NOFOLLOW, OwnerAlone);
 }
 
-std::unique_ptr<InputFile> LinuxFiles::OpenForInput(const std::string& path) {
-    return std::make_unique<LinuxInputFile>(path);
+std::unique_ptr<ReadableFile> LinuxFiles::OpenForInput(const std::string& path) {
+    return std::make_unique<LinuxReadableFile>(path);
 }
 
 void LinuxFiles::Copy(const std::string& from, const std::string& to) {
     RegularFile source(from, O_RDONLY, 0);
     if (source.IsAt(to))
         return;
-    LinuxOutputFile target(to, 0, AnyoneByMask);
+    LinuxWritableFile target(to, 0, AnyoneByMask);
     std::vector<char> buffer(std::size_t{1} << 16U);
     while (const std::size_t count = source.Read(buffer))
         target.Write({buffer.data(), count});

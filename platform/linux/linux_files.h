@@ -14,9 +14,9 @@ class LinuxFiles : public Files {
     /// without that the system would end the program.
     LinuxFiles();
 
-    std::unique_ptr<OutputFile> OpenForOutput(const std::string& path) override;
-    std::unique_ptr<OutputFile> CreatePrivate(const std::string& path) override;
-    std::unique_ptr<InputFile> OpenForInput(const std::string& path) override;
+    std::unique_ptr<WritableFile> OpenForOutput(const std::string& path) override;
+    std::unique_ptr<WritableFile> CreatePrivate(const std::string& path) override;
+    std::unique_ptr<ReadableFile> OpenForInput(const std::string& path) override;
     void Copy(const std::string& from, const std::string& to) override;
     void Delete(const std::string& path) override;
     bool Exists(const std::string& path) override;

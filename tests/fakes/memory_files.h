@@ -20,16 +20,16 @@ class MemoryFiles : public Files, public Faults {
     std::vector<std::string> Log;                ///< "OpenForOutput path" and so on, Copy with its target
     int Open = 0;                                ///< files open now
 
-    std::unique_ptr<OutputFile> OpenForOutput(const std::string& path) override {
+    std::unique_ptr<WritableFile> OpenForOutput(const std::string& path) override {
         Note("OpenForOutput", path);
         Contents[path].clear();
         return std::make_unique<Output>(*this, Contents[path]);
     }
-    std::unique_ptr<OutputFile> CreatePrivate(const std::string& path) override {
+    std::unique_ptr<WritableFile> CreatePrivate(const std::string& path) override {
         Note("CreatePrivate", path);
         return std::make_unique<Output>(*this, Contents[path]);
     }
-    std::unique_ptr<InputFile> OpenForInput(const std::string& path) override {
+    std::unique_ptr<ReadableFile> OpenForInput(const std::string& path) override {
         return std::make_unique<Input>(*this, Existing("OpenForInput", path));
     }
     void Copy(const std::string& from, const std::string& to) override {
@@ -49,7 +49,7 @@ class MemoryFiles : public Files, public Faults {
         ~Handle() { --Files.Open; }
         MemoryFiles& Files;
     };
-    struct Output : OutputFile, Handle {
+    struct Output : WritableFile, Handle {
         Output(MemoryFiles& files, std::string& content) : Handle(files), Content(content) {}
         void Write(std::string_view bytes) override {
             const bool fails = Files.Failing("Write");
@@ -60,7 +60,7 @@ class MemoryFiles : public Files, public Faults {
         void Close() override { Files.Try("Close"); }
         std::string& Content;
     };
-    struct Input : InputFile, Handle {
+    struct Input : ReadableFile, Handle {
         Input(MemoryFiles& files, std::string bytes) : Handle(files), Bytes(std::move(bytes)) {}
         std::size_t Read(std::span<char> buffer) override {
             Files.Try("Read");

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <QPlainTextEdit>
-#include <QTextBlock>
 
 #include <map>
 #include <string>
@@ -110,28 +109,12 @@ TEST_F(OutputFormTest, KeysOfTheText) {
     EXPECT_FALSE(desktop.files.Contents.contains(path));
 }
 
-TEST_F(OutputFormTest, OfAFileWithTooManyLinesItShowsWhatWasRead) {
-    const std::string lineFeeds(60'000, '\n');
-    std::string bytes = "first\r";
-    for (int part = 0; part < 6; ++part)
-        bytes += lineFeeds + "\r";
-    desktop.files.Contents[path] = bytes;
-    Open([&](QDialog& window) {
-        EXPECT_NE(desktop.messages.Take().find("too many lines"), std::string::npos);
-        const auto& box = Find<QPlainTextEdit>(window, "OutputTxt");
-        EXPECT_EQ(box.document()->firstBlock().text(), "first");
-        // Behind a CR the first LF belongs to it, the last line is empty.
-        EXPECT_EQ(box.blockCount(), 1 + 4 * 60'000 + 1);
-        window.close();
-    });
-}
-
 TEST_F(OutputFormTest, TakesAnyBytesAndManyLines) {
     std::string bytes;
     for (int byte = 0; byte < 256; ++byte)
         bytes += static_cast<char>(byte);
     for (int line = 0; line < 100'000; ++line)
-        bytes += "0001: Group 1       0002: Group 2\r\n";
+        bytes += "0001: Group 1       0002: Group 2\n";
     desktop.files.Contents[path] = bytes;
     Open([&](QDialog& window) {
         EXPECT_GT(Find<QPlainTextEdit>(window, "OutputTxt").blockCount(), 100'000);

@@ -137,7 +137,8 @@ TEST_F(SettingsTest, WhatNoLineCanHoldIsRefusedBeforeTheFileIsOpenedAndReplacedA
     auto& grid = Find<FlexGridWidget>(form, "GroupNameGrid");
     desktop.files.Contents["/s.stg"] = "kept";
     const auto refused = [&] { return Save() + desktop.files.Contents["/s.stg"]; };
-    for (const std::string text : {"a\rb", "a\u2265b"}) {
+    const std::string tooLarge(SettingsFile::LargestFile, 'x');
+    for (const std::string& text : {std::string("a\rb"), std::string("a\u2265b"), tooLarge}) {
         grid.SetText(text);
         EXPECT_EQ(refused(), "reportkept");
     }
@@ -151,6 +152,8 @@ TEST_F(SettingsTest, WhatNoLineCanHoldIsRefusedBeforeTheFileIsOpenedAndReplacedA
     }
     grid.SetText("a\u2265\rb");
     form.close();
+    EXPECT_NE(desktop.messages.Take().find("were saved as \"?\": \"\u2265\" (U+2265), a line end\r\n"),
+              std::string::npos);
     EXPECT_EQ(LinesOf(desktop.files.Contents[SavedPath])[5], "a??b");
 }
 

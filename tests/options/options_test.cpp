@@ -240,6 +240,13 @@ TEST(OptionValidation, RefusesListsThatCannotBeMade) {
         bench.settings.SigLevel = row.level;
         bench.Expect(row.message.empty() ? Texts{} : Texts{row.message}, "");
     }
+    bench.Set(3, 20);
+    bench.grid.Names = {"a", "a", "a"};
+    bench.Option(OnlyOneBlock);
+    bench.Expect(
+        {"a block of 20 subjects cannot pass the Runs test since all its groups have the same name, please "
+         "give the groups different names"},
+        "");
     bench.Set(2, 20); // blocks that are drawn
     bench.settings.PerformRuns = true;
     bench.Option(RandomSizesOf, "2,18", {0.9F, 0});
@@ -251,14 +258,15 @@ TEST(OptionValidation, RefusesListsThatCannotBeMade) {
     bench.Expect({TooManySubjects}, "");
 }
 
-TEST(OptionValidation, AFailureOfTheRandomSourceIsNoFaultOfTheOptions) {
-    for (const BlockOptions option : {RandomSizesOf, RandomBlockSize}) {
-        OptionsBench bench;
-        bench.Option(option, "6");
-        bench.desktop.random.Fails = {"UniformNext"};
-        EXPECT_EQ(FailureOf([&] { bench.validation.cmdOK_Click(); }).Number, 5);
-        EXPECT_EQ(bench.log, "");
-    }
+TEST(OptionValidation, AFailureOfTheRandomSourceIsAFaultOfTheListAndComesOutOfRandomSizes) {
+    OptionsBench bench;
+    bench.desktop.random.Fails = {"UniformNext"};
+    bench.Option(RandomSizesOf, "6");
+    bench.Expect({"please specify block sizes"}, "UnEqBlockSizeTxt ");
+    bench.Option(RandomBlockSize);
+    bench.log.clear();
+    EXPECT_EQ(FailureOf([&] { bench.validation.cmdOK_Click(); }).Number, 5);
+    EXPECT_EQ(bench.log, "");
 }
 
 TEST(OptionProperties, LevelIsTheNearestFloat) {

@@ -29,7 +29,7 @@ TEST(TextFileReader, EndsLinesAtCrAndCrLfAlone) {
     for (const auto& [bytes, expected] : table) {
         MemoryFiles files;
         files.Contents["f"] = bytes;
-        TextFileReader reader(files.OpenForInput("f"), WesternPage(), "f");
+        TextFileReader reader(files.OpenForInput("f"), WesternPage(), "f", {false, chunk.size(), 1'000'000});
         Texts lines;
         Failure failure = FailureOf([&] {
             for (;;)
@@ -66,38 +66,48 @@ TEST(TextFileWriter, WritesEverythingOnceWhateverFails) {
     EXPECT_EQ(files.Open, 0);
 }
 
-struct ShownText : OutputText {
+struct ShownText : TextBox {
     void AppendLine(const std::string& text) override { Lines += text + "\r\n"; }
     std::string Lines;
 };
 
-TEST(OutputDocument, ShowsWhatItCanReadOfAFileAndDeletesItQuietly) {
-    const std::string chunk = std::string((std::size_t{1} << 16U) - 2, 'x') + "\r\n";
+TEST(ShownFile, ShowsWhatItCanReadOfAFileAndDeletesItQuietly) {
+    const std::string chunk = std::string(ShownFile::LongestLine - 2, 'x') + "\r\n";
+    std::string lines;
+    for (std::size_t line = 0; line < ShownFile::MostLines; ++line)
+        lines += "\r\n";
     std::string largest;
-    while (largest.size() < OutputDocument::LargestFile)
+    while (largest.size() < ShownFile::LargestFile)
         largest += chunk;
     FakeDesktop desktop;
     ScriptedDialog dialog;
-    OutputDocument document(desktop.platform, dialog);
-    document.OutputFileName("f", true);
+    ShownFile file(desktop.platform, dialog);
+    file.OutputFileName("f", true);
     const auto show = [&](const std::string& bytes, const std::string& shown) {
         desktop.pointer.Calls.clear();
         desktop.files.Contents["f"] = bytes;
         ShownText text;
-        document.Form_Load(text);
+        file.ReadInto(text);
         EXPECT_TRUE(text.Lines == shown);
         EXPECT_EQ(desktop.files.Open, 0);
         return desktop.messages.Take() + desktop.pointer.Calls;
     };
-    EXPECT_EQ(show("caf\xE9\rb\nb\r\n\r\nlast", "café\r\nb\nb\r\n\r\nlast\r\n"), "N");
+    EXPECT_EQ(show("caf\xE9\rb\nb\r\n\r\nlast", "café\r\nb\r\nb\r\n\r\nlast\r\n"), "N");
+    EXPECT_EQ(show(std::string(ShownFile::MostLines, '\n'), lines), "N");
+    EXPECT_EQ(
+        show(lines + "x", lines),
+        Report("The file f has more than 131072 lines and is not shown to its end", 20012, "OutputFrm"));
+    EXPECT_EQ(show("a\n" + chunk + "xxx" + chunk, "a\r\n" + chunk),
+              Report("A line of the file f is longer than 16384 characters", 20012, "reading a line"));
     EXPECT_EQ(show(largest, largest), "N");
     EXPECT_EQ(show(largest + "more", largest),
-              Report("The file f is too large to be shown as a whole", 20012, "OutputFrm"));
+              Report("The file f is larger than 67108864 bytes and is not read to its end", 20012,
+                     "reading a line"));
     desktop.files.Fails = {"Read", "Delete"};
     desktop.files.Before = 1;
     EXPECT_EQ(show(chunk + "more", chunk), Report("cannot Read", 5, "a fake"))
         << "a line that was read is shown";
-    document.Form_Unload();
+    file.DeleteIfTemporary();
     EXPECT_EQ(desktop.messages.TakeAll(), Texts{});
 }
 

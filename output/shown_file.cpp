@@ -1,6 +1,5 @@
-#include "output/output_document.h"
+#include "output/shown_file.h"
 
-#include "engine/text.h"
 #include "output/glb_util.h"
 #include "output/text_file.h"
 
@@ -8,40 +7,38 @@
 
 namespace orvane {
 
-OutputDocument::OutputDocument(Platform& desktop, CommonDialog& CMDialog)
-    : desktop_(desktop), CMDialog_(CMDialog) {
+ShownFile::ShownFile(Platform& desktop, CommonDialog& CMDialog) : desktop_(desktop), CMDialog_(CMDialog) {
     CMDialog_.DialogTitle = "Save to File As...";
     CMDialog_.Filter = "Text file (*.txt)|*.txt";
     CMDialog_.FileName = "output";
     CMDialog_.DefaultExt = "htm";
 }
 
-void OutputDocument::OutputFileName(const std::string& strOutputFileName, bool temporary) {
+void ShownFile::OutputFileName(const std::string& strOutputFileName, bool temporary) {
     OutputFileName_ = strOutputFileName;
     temporary_ = temporary;
 }
 
-void OutputDocument::Form_Load(OutputText& text) {
+void ShownFile::ReadInto(TextBox& text) {
     WithFailurePath(desktop_.Messages, false, [&] {
-        ReadInto(text);
+        ReadLines(text);
         desktop_.Pointer.ShowNormal();
     });
 }
 
-void OutputDocument::ReadInto(OutputText& text) {
-    TextFileReader file(desktop_.FileSystem.OpenForInput(OutputFileName_), desktop_.Page, OutputFileName_);
-    std::size_t shown = 0;
-    while (!file.AtEnd()) {
-        const std::string line = file.ReadLine();
-        shown += line.size() + LineEnd.size();
-        if (shown > LargestFile)
-            throw Failure("The file " + OutputFileName_ + " is too large to be shown as a whole",
+void ShownFile::ReadLines(TextBox& text) {
+    TextFileReader file(desktop_.FileSystem.OpenForInput(OutputFileName_), desktop_.Page, OutputFileName_,
+                        {true, LongestLine, LargestFile});
+    for (std::size_t lines = 0; !file.AtEnd(); ++lines) {
+        if (lines == MostLines)
+            throw Failure("The file " + OutputFileName_ + " has more than " + std::to_string(MostLines) +
+                              " lines and is not shown to its end",
                           failure_number::TooLarge, "OutputFrm");
-        text.AppendLine(line);
+        text.AppendLine(file.ReadLine());
     }
 }
 
-void OutputDocument::SaveCmd_Click() {
+void ShownFile::SaveAs() {
     WithFailurePath(desktop_.Messages, true, [this] {
         for (;;) {
             CMDialog_.Flags = CommonDialog::OverwritePrompt;
@@ -55,12 +52,12 @@ void OutputDocument::SaveCmd_Click() {
     });
 }
 
-void OutputDocument::SaveToText(const std::string& strFileName) {
+void ShownFile::SaveToText(const std::string& strFileName) {
     WithFailurePath(desktop_.Messages, false,
                     [&] { desktop_.FileSystem.Copy(OutputFileName_, strFileName); });
 }
 
-void OutputDocument::Form_Unload() {
+void ShownFile::DeleteIfTemporary() {
     if (!std::exchange(temporary_, false))
         return;
     try {
