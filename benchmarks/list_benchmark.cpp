@@ -1,11 +1,12 @@
 // A whole list: 32,764 subjects in blocks of 4, random mixed codes of 6 characters, to a text file.
 #include "engine/random_source.h"
 #include "engine/subject_codes.h"
-#include "fakes/desktop.h"
 #include "output/text_report.h"
+#include "platform/linux/code_page_iconv.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_entropy.h"
 #include "platform/linux/linux_files.h"
+#include "quiet_desktop.h"
 #include "ratios.h"
 #include "straightforward.h"
 
@@ -53,17 +54,17 @@ struct ListFile {
 };
 
 /// The program's way to make the list, with the clock and the entropy of this machine.
-void MakeList(benchmark::State& state, fakes::FakeDesktop& desk, Files& files, bool report) {
+void MakeList(benchmark::State& state, QuietDesktop& desk, Files& files, bool report) {
     const ListSettings settings = Settings();
     ListResults results;
     results.BlockSizes = BlockSizes();
-    const fakes::MemoryGrid grid(Names());
+    const FixedNames grid(Names());
     LinuxEntropy entropy;
     LinuxClock clock;
+    const CodePage page = WesternCodePage();
     RandomSource random(entropy);
-    Platform platform{desk.messages, desk.pointer, files,      fakes::WesternPage(),
-                      clock,         random,       desk.shell, desk.board,
-                      desk.keys,     "",           '/'};
+    Platform platform{desk.messages, desk.pointer, files,     page, clock, random,
+                      desk.shell,    desk.board,   desk.keys, "",   '/'};
     SequenceBuilder builder(settings, results, grid, random, clock, desk.messages);
     const ReportContext context{settings, results, grid, builder, platform};
     const ListFile file("orvane-benchmark-program.txt");
@@ -72,26 +73,25 @@ void MakeList(benchmark::State& state, fakes::FakeDesktop& desk, Files& files, b
         if (report)
             GenerateText(context, file.path);
     }
-    const std::string message = desk.messages.Take();
-    if (!message.empty())
-        state.SkipWithError(message.c_str());
+    if (!desk.messages.Text.empty())
+        state.SkipWithError(desk.messages.Text.c_str());
     if (std::filesystem::exists(file.path))
         state.counters["bytes"] = static_cast<double>(std::filesystem::file_size(file.path));
 }
 
 void Program(benchmark::State& state) {
-    fakes::FakeDesktop desk;
+    QuietDesktop desk;
     LinuxFiles files;
     MakeList(state, desk, files, true);
 }
 
 void ToMemory(benchmark::State& state) {
-    fakes::FakeDesktop desk;
+    QuietDesktop desk;
     MakeList(state, desk, desk.files, true);
 }
 
 void CodesAlone(benchmark::State& state) {
-    fakes::FakeDesktop desk;
+    QuietDesktop desk;
     MakeList(state, desk, desk.files, false);
 }
 
