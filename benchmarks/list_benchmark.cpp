@@ -65,7 +65,7 @@ void MakeList(benchmark::State& state, QuietDesktop& desk, Files& files, bool re
     RandomSource random(entropy);
     Platform platform{desk.messages, desk.pointer, files,     page, clock, random,
                       desk.shell,    desk.board,   desk.keys, "",   '/'};
-    SequenceBuilder builder(settings, results, grid, random, clock, desk.messages);
+    SequenceBuilder builder(settings, results, grid, platform);
     const ReportContext context{settings, results, grid, builder, platform};
     const ListFile file("orvane-benchmark-program.txt");
     while (state.KeepRunning()) {

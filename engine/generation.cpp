@@ -18,7 +18,7 @@ void Generation::cmdGenerate_Click() {
 }
 
 void Generation::mnuSequence_Click(std::int16_t Index) {
-    pointer_.ShowBusy();
+    desktop_.Pointer.ShowBusy();
     if (Index == GenerateItem) {
         results_.MinPValue = 1;
         results_.MaxPValue = 0;
@@ -27,18 +27,18 @@ void Generation::mnuSequence_Click(std::int16_t Index) {
         if (settings_.PerformRuns && anyBlockTested)
             ShowRunsTestMessage();
     }
-    pointer_.ShowNormal();
+    desktop_.Pointer.ShowNormal();
 }
 
 void Generation::GenerateRandomList() {
     if (settings_.SampleSize <= 0) {
-        RefuseSampleSize(sampleSize_, messages_);
+        RefuseSampleSize(sampleSize_, desktop_.Messages);
         return;
     }
     options_.ShowModal();
     if (settings_.SelectedCmd == ClosedByCancel)
         return;
-    CreateCodeArr(settings_, results_, random_, clock_);
+    CreateCodeArr(settings_, results_, desktop_.Random, desktop_.Clock);
     switch (settings_.OutputOption) {
     case ToFile:
         channels_.OutputToFile();
@@ -57,12 +57,12 @@ void Generation::GenerateRandomList() {
 void Generation::ShowRunsTestMessage() {
     const std::string lowest = FourDecimals(results_.MinPValue);
     if (results_.MinPValue == results_.MaxPValue) {
-        messages_.Show("P value of Runs test = " + lowest);
+        desktop_.Messages.Show("P value of Runs test = " + lowest);
         return;
     }
     const std::string lineEnd(LineEnd);
-    messages_.Show("Runs test:" + lineEnd + "Minimum P value = " + lowest + lineEnd +
-                   "Maximum P value = " + FourDecimals(results_.MaxPValue));
+    desktop_.Messages.Show("Runs test:" + lineEnd + "Minimum P value = " + lowest + lineEnd +
+                           "Maximum P value = " + FourDecimals(results_.MaxPValue));
 }
 
 } // namespace orvane

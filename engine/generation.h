@@ -3,9 +3,7 @@
 
 #include "engine/list_settings.h"
 #include "platform/message_box.h"
-#include "platform/mouse_pointer.h"
-#include "platform/time_of_day.h"
-#include "platform/uniform_source.h"
+#include "platform/platform.h"
 
 #include <cstdint>
 #include <string>
@@ -49,10 +47,9 @@ enum SequenceItems : std::int16_t { OutputItem = 0, SeparatorItem = 1, GenerateI
 class Generation {
   public:
     Generation(const ListSettings& settings, ListResults& results, OptionsWindow& options,
-               OutputChannels& channels, SampleSizeBox& sampleSize, MessageBox& messages,
-               MousePointer& pointer, UniformSource& random, TimeOfDay& clock)
+               OutputChannels& channels, SampleSizeBox& sampleSize, Platform& desktop)
         : settings_(settings), results_(results), options_(options), channels_(channels),
-          sampleSize_(sampleSize), messages_(messages), pointer_(pointer), random_(random), clock_(clock) {}
+          sampleSize_(sampleSize), desktop_(desktop) {}
 
     void cmdGenerate_Click();
     /// Index is one of SequenceItems; all but "Generate" only show the busy pointer and the normal one.
@@ -67,10 +64,7 @@ class Generation {
     OptionsWindow& options_;
     OutputChannels& channels_;
     SampleSizeBox& sampleSize_;
-    MessageBox& messages_;
-    MousePointer& pointer_;
-    UniformSource& random_;
-    TimeOfDay& clock_;
+    Platform& desktop_;
 };
 
 } // namespace orvane

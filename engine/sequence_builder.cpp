@@ -68,8 +68,8 @@ void SequenceBuilder::ShuffleUntilAccepted(std::vector<std::uint8_t>& groups) {
         numberOfGroup = GroupNumbers(groupNames_, settings_.NumberOfGroups);
     std::vector<std::int16_t> numbers(groups.size());
     for (int attempt = 0; attempt < MostAttempts; ++attempt) {
-        random_.UniformReseed(clock_.SecondsSinceMidnight());
-        ShuffleBlock(random_, groups);
+        desktop_.Random.UniformReseed(desktop_.Clock.SecondsSinceMidnight());
+        ShuffleBlock(desktop_.Random, groups);
         if (!settings_.PerformRuns)
             return;
         std::transform(groups.begin(), groups.end(), numbers.begin(),
@@ -83,7 +83,7 @@ void SequenceBuilder::ShuffleUntilAccepted(std::vector<std::uint8_t>& groups) {
 }
 
 bool SequenceBuilder::IsAccepted(std::span<const std::int16_t> numbers) {
-    const float PValue = GetRandomness(numbers, messages_);
+    const float PValue = GetRandomness(numbers, desktop_.Messages);
     results_.LastPValue = PValue;
     if (PValue > settings_.SigLevel) {
         results_.MaxPValue = std::max(results_.MaxPValue, PValue);

@@ -2,10 +2,8 @@
 #pragma once
 
 #include "engine/list_settings.h"
-#include "platform/message_box.h"
 #include "platform/ms_flex_grid.h"
-#include "platform/time_of_day.h"
-#include "platform/uniform_source.h"
+#include "platform/platform.h"
 
 #include <cstdint>
 #include <span>
@@ -17,9 +15,8 @@ namespace orvane {
 class SequenceBuilder {
   public:
     SequenceBuilder(const ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
-                    UniformSource& random, TimeOfDay& clock, MessageBox& messages)
-        : settings_(settings), results_(results), groupNames_(groupNames), random_(random), clock_(clock),
-          messages_(messages) {}
+                    Platform& desktop)
+        : settings_(settings), results_(results), groupNames_(groupNames), desktop_(desktop) {}
 
     /// Makes one block. On entry both arrays have one entry for each position of the block, their content is
     /// ignored, and `OffSet` is the number of subjects of the earlier blocks. On return both have one entry
@@ -44,9 +41,7 @@ class SequenceBuilder {
     const ListSettings& settings_;
     ListResults& results_;
     const MSFlexGrid& groupNames_;
-    UniformSource& random_;
-    TimeOfDay& clock_;
-    MessageBox& messages_;
+    Platform& desktop_;
 };
 
 /// `n` raised to a multiple of `columns`, in checked 16-bit arithmetic.

@@ -57,14 +57,12 @@ struct MainForm::Parts {
     LoadedControls controls{*ui.nogHsb, *ui.SampSizeTxt, guard};
     OutputItems outputItems{{ui.mnuOutput_0, ui.mnuOutput_1, ui.mnuOutput_2}};
     GroupNameEditor groupNames{settings, *ui.GroupNameGrid, nameBox};
-    SequenceBuilder builder{settings,       results,       *ui.GroupNameGrid,
-                            desktop.Random, desktop.Clock, desktop.Messages};
+    SequenceBuilder builder{settings, results, *ui.GroupNameGrid, desktop};
     OptionsForm options{settings, results, *ui.GroupNameGrid, desktop};
     OutputForm output{desktop, outputDialog};
     ReportContext context{settings, results, *ui.GroupNameGrid, builder, desktop};
     ListChannels channels{context, CMDialog, output};
-    Generation generation{settings,         results,         options,        channels,     sampleSize,
-                          desktop.Messages, desktop.Pointer, desktop.Random, desktop.Clock};
+    Generation generation{settings, results, options, channels, sampleSize, desktop};
     SettingsFile settingsFile{settings, *ui.GroupNameGrid, controls, outputItems, desktop};
     SettingsWorkflow workflow{settingsFile, CMDialog, desktop};
 };

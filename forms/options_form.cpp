@@ -97,8 +97,7 @@ OptionsDialog::OptionsDialog(ListSettings& settings, ListResults& results, const
     : ModalWindow(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                   Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint),
       settings_(settings), pointer_(desktop.Pointer), guard_(desktop.Messages, desktop.Pointer),
-      buttons_(settings, results, groupNames, controls_, desktop.Messages, desktop.Pointer, desktop.Random,
-               desktop.Clock) {
+      buttons_(settings, results, groupNames, controls_, desktop) {
     ui_.setupUi(this);
     for (const Tab& tab : Tabs)
         ui_.tbsOptions->setTabToolTip(ui_.tbsOptions->addTab(tab.caption), tab.toolTip);

@@ -111,19 +111,19 @@ void BlockSizeList::GetMinMax(const std::string& S, std::int16_t& min, std::int1
 }
 
 void BlockSizeList::TellFault(const std::string& message) {
-    messages_.Show(message);
+    desktop_.Messages.Show(message);
     controls_.FocusUnEqBlockSizeTxt();
 }
 
 void BlockSizeList::DrawBlocks(const std::vector<std::int16_t>& pool) {
-    random_.UniformReseed(clock_.SecondsSinceMidnight());
+    desktop_.Random.UniformReseed(desktop_.Clock.SecondsSinceMidnight());
     results_.BlockSizes.assign(1, 0);
     if (pool.size() == 1)
         throw Failure("The list of block sizes stands for no size", failure_number::OutOfRange, "BuildArr");
     const std::int16_t last = ToInt16(static_cast<double>(pool.size() - 1));
     std::int16_t sum = 0;
     do {
-        const std::int16_t slot = DrawRandomInt(random_, 1, last);
+        const std::int16_t slot = DrawRandomInt(desktop_.Random, 1, last);
         const std::int16_t size = pool[static_cast<std::size_t>(slot)];
         results_.BlockSizes.push_back(size);
         sum = Add16(sum, size);

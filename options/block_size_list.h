@@ -4,9 +4,7 @@
 
 #include "engine/list_settings.h"
 #include "options/options_controls.h"
-#include "platform/message_box.h"
-#include "platform/time_of_day.h"
-#include "platform/uniform_source.h"
+#include "platform/platform.h"
 
 #include <cstdint>
 #include <string>
@@ -17,9 +15,8 @@ namespace orvane {
 class BlockSizeList {
   public:
     BlockSizeList(const ListSettings& settings, ListResults& results, OptionsControls& controls,
-                  MessageBox& messages, UniformSource& random, TimeOfDay& clock)
-        : settings_(settings), results_(results), controls_(controls), messages_(messages), random_(random),
-          clock_(clock) {}
+                  Platform& desktop)
+        : settings_(settings), results_(results), controls_(controls), desktop_(desktop) {}
 
     /// True when the list cannot be used; otherwise BlockSizes is filled. The messages of BuildArr come from
     /// inside, that of every refusal is the caller's. Throws an Overflow failure for a number, a pool or a
@@ -50,9 +47,7 @@ class BlockSizeList {
     const ListSettings& settings_;
     ListResults& results_;
     OptionsControls& controls_;
-    MessageBox& messages_;
-    UniformSource& random_;
-    TimeOfDay& clock_;
+    Platform& desktop_;
 };
 
 } // namespace orvane

@@ -35,7 +35,7 @@ bool OptionValidation::NotValidInputs() {
 }
 
 bool OptionValidation::Refuse(const std::string& message, Focus focus) {
-    messages_.Show(message);
+    desktop_.Messages.Show(message);
     (controls_.*focus)();
     return true;
 }
@@ -83,7 +83,7 @@ bool OptionValidation::LevelRefused() {
     });
     if (!fault)
         return false;
-    messages_.Show("Significance level must be greater than 0 ad less than 0.35");
+    desktop_.Messages.Show("Significance level must be greater than 0 ad less than 0.35");
     controls_.SelectTab(StatisticsTab);
     controls_.FocusTxtLevel();
     return true;
@@ -92,7 +92,7 @@ bool OptionValidation::LevelRefused() {
 bool OptionValidation::ListRefused() {
     const std::optional<std::string> message = ListRefusal(settings_, results_.BlockSizes, groupNames_);
     if (message)
-        messages_.Show(*message);
+        desktop_.Messages.Show(*message);
     return message.has_value();
 }
 
@@ -104,14 +104,15 @@ void OptionValidation::SetForEqualBlocks() {
 }
 
 void OptionValidation::SetForRandomBlockSize() {
-    random_.UniformReseed(clock_.SecondsSinceMidnight());
+    desktop_.Random.UniformReseed(desktop_.Clock.SecondsSinceMidnight());
     const std::int32_t deals = 1 + settings_.SampleSize / settings_.NumberOfGroups;
     // A multiplier of 0, as small samples give, would be a block without positions.
     const std::int16_t Lo = ToInt16(std::max(1, deals / 5));
     const std::int16_t Hi = ToInt16(std::max(1, deals / 3));
     std::int32_t sum = 0;
     do {
-        const std::int16_t size = Multiply16(settings_.NumberOfGroups, DrawRandomInt(random_, Lo, Hi));
+        const std::int16_t size =
+            Multiply16(settings_.NumberOfGroups, DrawRandomInt(desktop_.Random, Lo, Hi));
         results_.BlockSizes.push_back(size);
         sum += size;
     } while (sum <= settings_.SampleSize);
@@ -123,7 +124,7 @@ void OptionValidation::cmdOK_Click() {
     settings_.SelectedCmd = ClosedByOK;
     settings_.TableBorder = controls_.TableBorderChecked();
     settings_.CellSpacing = controls_.CellSpacingPosition();
-    pointer_.ShowBusy(); // the opener of the window shows the normal one at its end
+    desktop_.Pointer.ShowBusy(); // the opener of the window shows the normal one at its end
     controls_.Close();
 }
 

@@ -5,11 +5,8 @@
 #include "options/block_size_list.h"
 #include "options/option_properties.h"
 #include "options/options_controls.h"
-#include "platform/message_box.h"
-#include "platform/mouse_pointer.h"
 #include "platform/ms_flex_grid.h"
-#include "platform/time_of_day.h"
-#include "platform/uniform_source.h"
+#include "platform/platform.h"
 
 #include <string>
 
@@ -18,11 +15,9 @@ namespace orvane {
 class OptionValidation {
   public:
     OptionValidation(ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
-                     OptionsControls& controls, MessageBox& messages, MousePointer& pointer,
-                     UniformSource& random, TimeOfDay& clock)
+                     OptionsControls& controls, Platform& desktop)
         : settings_(settings), results_(results), groupNames_(groupNames), controls_(controls),
-          messages_(messages), pointer_(pointer), random_(random), clock_(clock),
-          list_(settings, results, controls, messages, random, clock) {}
+          desktop_(desktop), list_(settings, results, controls, desktop) {}
 
     /// Keeps the values that Cancel goes back to. To be called at every opening, once the level has gone
     /// through its field and before BringOptionsIntoRange.
@@ -57,10 +52,7 @@ class OptionValidation {
     ListResults& results_;
     const MSFlexGrid& groupNames_;
     OptionsControls& controls_;
-    MessageBox& messages_;
-    MousePointer& pointer_;
-    UniformSource& random_;
-    TimeOfDay& clock_;
+    Platform& desktop_;
     BlockSizeList list_;
     OptionSnapshot snapshot_;
 };

@@ -65,8 +65,7 @@ std::vector<int> MakeAssignments(const BlockPlan& plan, UniformSource& random) {
     list.Settings.CodeLength = 4;
 
     FilledInOptions controls;
-    OptionValidation options(list.Settings, list.Results, list.Names, controls, list.Desktop.Messages,
-                             list.Desktop.Pointer, random, list.Desktop.Clock);
+    OptionValidation options(list.Settings, list.Results, list.Names, controls, list.Desktop.All);
     if (options.NotValidInputs())
         throw std::runtime_error("The program refused " + plan.Name + ": " + list.Desktop.Messages.Take());
     CreateCodeArr(list.Settings, list.Results, random, list.Desktop.Clock);

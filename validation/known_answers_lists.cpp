@@ -1,7 +1,7 @@
 // A worked list in all four forms, the places of subjects in a table, and characters that a file cannot hold.
 #include "output/clipboard_report.h"
 #include "output/html_report.h"
-#include "output/output_document.h"
+#include "output/shown_file.h"
 #include "output/text_report.h"
 #include "output/window_report.h"
 #include "platform/failure.h"
@@ -120,7 +120,7 @@ class OnePath : public CommonDialog {
 };
 
 /// The output window: keeps its text, saves it once, and closes.
-class WindowThatSaves : public OutputWindow, public OutputText {
+class WindowThatSaves : public OutputWindow, public TextBox {
   public:
     explicit WindowThatSaves(Platform& desktop) : document_(desktop, dialog_) {}
     void OutputFileName(const std::string& strOutputFileName, bool temporary) override {
@@ -137,7 +137,7 @@ class WindowThatSaves : public OutputWindow, public OutputText {
 
   private:
     OnePath dialog_;
-    OutputDocument document_;
+    ShownFile document_;
 };
 
 void CompareWindow(Evidence& evidence) {

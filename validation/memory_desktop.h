@@ -219,8 +219,7 @@ struct MemoryDesktop {
 /// A list that is about to be reported: settings, groups, blocks and codes.
 struct MemoryList {
     MemoryList(UniformSource& random, const Texts& names)
-        : Desktop(random), Names(names),
-          Builder(Settings, Results, Names, random, Desktop.Clock, Desktop.Messages) {
+        : Desktop(random), Names(names), Builder(Settings, Results, Names, Desktop.All) {
         Settings.NumberOfGroups = static_cast<std::int16_t>(names.size());
     }
 

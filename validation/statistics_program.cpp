@@ -15,7 +15,18 @@ Texts GroupLetters(int groups) {
 }
 
 DeliveredProgram::DeliveredProgram(Entropy& entropy, TimeOfDay& clock)
-    : clock_(clock), source_(entropy), list_(source_, GroupLetters(2)) {
+    : clock_(clock), source_(entropy),
+      list_(source_, GroupLetters(2)), desktop_{list_.Desktop.Messages,
+                                                list_.Desktop.Pointer,
+                                                list_.Desktop.FileSystem,
+                                                list_.Desktop.Page,
+                                                clock_,
+                                                source_,
+                                                list_.Desktop.Shell,
+                                                list_.Desktop.Board,
+                                                list_.Desktop.Keys,
+                                                list_.Desktop.All.ProgramDirectory,
+                                                list_.Desktop.All.Separator} {
     list_.Settings.Columns = 1;
 }
 
@@ -34,8 +45,7 @@ Arrangement DeliveredProgram::Block(int size, int groups, float level) {
     list_.Results.CodeArr.resize(positions, "code");
     Texts groupsOfCells(positions);
     Texts codesOfCells(positions);
-    SequenceBuilder builder(list_.Settings, list_.Results, list_.Names, source_, clock_,
-                            list_.Desktop.Messages);
+    SequenceBuilder builder(list_.Settings, list_.Results, list_.Names, desktop_);
     builder.BuildSequenceArr(groupsOfCells, codesOfCells, 0);
     Arrangement arrangement;
     for (const std::string& letter : groupsOfCells)
@@ -49,8 +59,7 @@ std::vector<std::int16_t> DeliveredProgram::BlockSizes(const ListSettings& setti
     ListResults results;
     const MemoryNames names(GroupLetters(settings.NumberOfGroups));
     FilledInOptions window;
-    OptionValidation options(accepted, results, names, window, list_.Desktop.Messages, list_.Desktop.Pointer,
-                             source_, clock_);
+    OptionValidation options(accepted, results, names, window, desktop_);
     if (options.NotValidInputs())
         throw std::runtime_error("the options were refused: " + list_.Desktop.Messages.Take());
     return {results.BlockSizes.begin() + 1, results.BlockSizes.end()};

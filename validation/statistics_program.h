@@ -49,6 +49,7 @@ class DeliveredProgram : public DrawingProgram {
     TimeOfDay& clock_;
     RandomSource source_;
     MemoryList list_;
+    Platform desktop_; ///< that of the list, with this program's clock
 };
 
 /// The letters of the groups, "A" the first.

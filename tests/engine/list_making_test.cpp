@@ -177,7 +177,7 @@ struct Bench {
     MemoryGrid grid;
     ListSettings settings;
     ListResults results;
-    SequenceBuilder builder{settings, results, grid, desktop.random, desktop.clock, desktop.messages};
+    SequenceBuilder builder{settings, results, grid, desktop.platform};
 };
 
 TEST(SequenceBuilder, DealsInRowOrderAndRunsDownTheColumns) {

@@ -61,8 +61,7 @@ struct OptionsBench : OptionsControls {
     ListSettings settings;
     ListResults results;
     MemoryGrid grid;
-    OptionValidation validation{settings,         results,         grid,           *this,
-                                desktop.messages, desktop.pointer, desktop.random, desktop.clock};
+    OptionValidation validation{settings, results, grid, *this, desktop.platform};
 };
 
 const std::string Fewer = ", please choose smaller blocks or a smaller sample size";

@@ -2,7 +2,6 @@
 // clipboard.
 
 #include "list_desk.h"
-#include "output/output_document.h"
 #include "output/text_file.h"
 
 #include <new>

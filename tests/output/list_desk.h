@@ -82,13 +82,12 @@ struct ListDesk : OptionsWindow, SampleSizeBox {
     ListResults results;
     MemoryGrid grid;
     std::vector<std::int16_t> Blocks;
-    SequenceBuilder builder{settings, results, grid, desktop.random, desktop.clock, desktop.messages};
+    SequenceBuilder builder{settings, results, grid, desktop.platform};
     ReportContext context{settings, results, grid, builder, desktop.platform, 77};
     ScriptedDialog dialog;
     ShownWindow window{desktop.files};
     ListChannels channels{context, dialog, window};
-    Generation generation{settings,         results,         *this,          channels,     *this,
-                          desktop.messages, desktop.pointer, desktop.random, desktop.clock};
+    Generation generation{settings, results, *this, channels, *this, desktop.platform};
 };
 
 inline const std::string BoardSuccess = "Data were copied into clipboard successfuly!";
