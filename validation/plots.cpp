@@ -216,12 +216,15 @@ std::string BarChart(const std::string& title, const std::string& xLabel, const 
     Drawing drawing;
     DrawVerticalAxis(drawing, up, yLabel);
     const double slot = (Right - Left) / static_cast<double>(bars.size());
+    // Outlines would make many narrow bars one black field.
+    const std::string paint =
+        slot < 8 ? " fill=\"#999\"/>" : " fill=\"#bbb\" stroke=\"#000\" stroke-width=\"0.7\"/>";
     for (std::size_t i = 0; i < bars.size(); ++i) {
         const double left = Left + static_cast<double>(i) * slot;
         const double top = OnAxis(up, bars[i].Value, Bottom, Top);
         const double gap = std::min(slot * 0.15, 14.0);
         drawing.Add("<rect" + At("x", left + gap) + At("y", top) + At("width", slot - 2 * gap) +
-                    At("height", Bottom - top) + " fill=\"#bbb\" stroke=\"#000\" stroke-width=\"0.7\"/>");
+                    At("height", Bottom - top) + paint);
         if (bars[i].Expected)
             DrawExpected(drawing, left, left + slot, OnAxis(up, *bars[i].Expected, Bottom, Top));
     }

@@ -101,9 +101,9 @@ std::function<void(Trial&)> TryBits(std::size_t which) {
 
 void TryRepetition(Trial& trial) {
     constexpr int lists = 1'000;
-    trial.Note("1,000 lists of one block of 60",
-               JudgeNone("Equal pairs of lists", EqualPairs(trial.Program, 60, 2, lists),
-                         ExpectedEqualPairs(60, 2, lists)));
+    trial.Note("1,000 lists of one block of 30 in 6 groups",
+               JudgeNone("Equal pairs of lists", EqualPairs(trial.Program, 30, 6, lists),
+                         ExpectedEqualPairs(30, 6, lists)));
     trial.Note("1,000 blocks of 12 in 4 groups",
                JudgeRareEvents("Equal pairs of blocks", EqualPairs(trial.Program, 12, 4, lists),
                                ExpectedEqualPairs(12, 4, lists)));
