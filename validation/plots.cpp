@@ -22,7 +22,7 @@ constexpr double Bottom = Top + PlotHeight;
 constexpr double CharacterWidth = 6;
 
 std::string At(const char* name, double value) {
-    return std::string(" ") + name + "=\"" + Fixed(value, 1) + '"';
+    return std::string(" ") + name + "='" + Fixed(value, 1) + "'";
 }
 
 /// The values at which an axis is marked.
@@ -62,20 +62,20 @@ class Drawing {
   public:
     void Line(double x1, double y1, double x2, double y2, double width, const std::string& more = "") {
         body_ += "<line" + At("x1", x1) + At("y1", y1) + At("x2", x2) + At("y2", y2) +
-                 " stroke=\"#000\" stroke-width=\"" + Fixed(width, 1) + '"' + more + "/>\n";
+                 " stroke='#000' stroke-width='" + Fixed(width, 1) + "'" + more + "/>\n";
     }
     void Text(double x, double y, const std::string& anchor, const std::string& text,
               const std::string& more = "") {
-        body_ += "<text" + At("x", x) + At("y", y) + " text-anchor=\"" + anchor + '"' + more + '>' +
+        body_ += "<text" + At("x", x) + At("y", y) + " text-anchor='" + anchor + "'" + more + '>' +
                  Escaped(text) + "</text>\n";
     }
     void Add(const std::string& element) { body_ += element + '\n'; }
 
     [[nodiscard]] std::string Svg(const std::string& title, double height) const {
         const std::string size = Fixed(Width, 0) + ' ' + Fixed(height, 0);
-        return "<svg xmlns=\"http://www.w3.org/2000/svg\" role=\"img\" viewBox=\"0 0 " + size +
-               "\" width=\"640\" height=\"" + Fixed(height, 0) +
-               "\" style=\"max-width:100%;height:auto;font:11px sans-serif;fill:#000\">\n<title>" +
+        return "<svg xmlns='http://www.w3.org/2000/svg' role='img' viewBox='0 0 " + size +
+               "' width='640' height='" + Fixed(height, 0) +
+               "' style='max-width:100%;height:auto;font:11px sans-serif;fill:#000'>\n<title>" +
                Escaped(title) + "</title>\n" + body_ + "</svg>\n";
     }
 
@@ -91,11 +91,11 @@ void DrawVerticalAxis(Drawing& drawing, const Scaling& scaling, const std::strin
     for (const double tick : scaling.Ticks()) {
         const double y = OnAxis(scaling, tick, Bottom, Top);
         drawing.Add("<line" + At("x1", Left) + At("y1", y) + At("x2", Right) + At("y2", y) +
-                    " stroke=\"#ccc\" stroke-width=\"0.7\"/>");
+                    " stroke='#ccc' stroke-width='0.7'/>");
         drawing.Text(Left - 6, y + 4, "end", scaling.Text(tick));
     }
     const double middle = (Top + Bottom) / 2;
-    drawing.Text(14, middle, "middle", label, " transform=\"rotate(-90 14 " + Fixed(middle, 1) + ")\"");
+    drawing.Text(14, middle, "middle", label, " transform='rotate(-90 14 " + Fixed(middle, 1) + ")'");
 }
 
 void DrawFrame(Drawing& drawing) {
@@ -118,7 +118,7 @@ double DrawBarLabels(Drawing& drawing, const std::vector<Bar>& bars) {
         const double y = Bottom + 14;
         if (slanted)
             drawing.Text(x + 4, y, "end", bars[i].Label,
-                         " transform=\"rotate(-40" + (' ' + Fixed(x + 4, 1)) + ' ' + Fixed(y, 1) + ")\"");
+                         " transform='rotate(-40" + (' ' + Fixed(x + 4, 1)) + ' ' + Fixed(y, 1) + ")'");
         else
             drawing.Text(x, y, "middle", bars[i].Label);
     }
@@ -128,13 +128,13 @@ double DrawBarLabels(Drawing& drawing, const std::vector<Bar>& bars) {
 /// A heavy line across the slot of a bar, with a white edge so that it shows on the bar too.
 void DrawExpected(Drawing& drawing, double x1, double x2, double y) {
     drawing.Add("<line" + At("x1", x1) + At("y1", y) + At("x2", x2) + At("y2", y) +
-                " stroke=\"#fff\" stroke-width=\"3.4\"/>");
+                " stroke='#fff' stroke-width='3.4'/>");
     drawing.Line(x1, y, x2, y, 1.8);
 }
 
 void DrawBarLegend(Drawing& drawing) {
-    drawing.Add("<rect x=\"" + Fixed(Right - 190, 1) +
-                "\" y=\"8\" width=\"12\" height=\"10\" fill=\"#bbb\" stroke=\"#000\" stroke-width=\"0.7\"/>");
+    drawing.Add("<rect x='" + Fixed(Right - 190, 1) +
+                "' y='8' width='12' height='10' fill='#bbb' stroke='#000' stroke-width='0.7'/>");
     drawing.Text(Right - 173, 17, "start", "observed");
     drawing.Line(Right - 92, 13, Right - 70, 13, 1.8);
     drawing.Text(Right - 64, 17, "start", "expected");
@@ -146,18 +146,18 @@ constexpr std::array<const char*, Kinds> Dashes{"", "6 3", "2 3", "8 3 2 3", "12
 /// Filled and open circles, squares and triangles.
 void DrawMarker(Drawing& drawing, std::size_t kind, double x, double y) {
     const std::string fill = kind % 2 == 0 ? "#000" : "#fff";
-    const std::string paint = " fill=\"" + fill + "\" stroke=\"#000\"/>";
+    const std::string paint = " fill='" + fill + "' stroke='#000'/>";
     if (kind / 2 % 3 == 0)
-        drawing.Add("<circle" + At("cx", x) + At("cy", y) + " r=\"3.5\"" + paint);
+        drawing.Add("<circle" + At("cx", x) + At("cy", y) + " r='3.5'" + paint);
     else if (kind / 2 % 3 == 1)
-        drawing.Add("<rect" + At("x", x - 3.2) + At("y", y - 3.2) + " width=\"6.4\" height=\"6.4\"" + paint);
+        drawing.Add("<rect" + At("x", x - 3.2) + At("y", y - 3.2) + " width='6.4' height='6.4'" + paint);
     else
-        drawing.Add("<path d=\"M" + Fixed(x, 1) + ' ' + Fixed(y - 4, 1) + " l4 7.5 h-8 z\"" + paint);
+        drawing.Add("<path d='M" + Fixed(x, 1) + ' ' + Fixed(y - 4, 1) + " l4 7.5 h-8 z'" + paint);
 }
 
 std::string DashOf(std::size_t kind) {
     const std::string dash = Dashes.at(kind % Kinds);
-    return dash.empty() ? "" : " stroke-dasharray=\"" + dash + '"';
+    return dash.empty() ? "" : " stroke-dasharray='" + dash + "'";
 }
 
 /// One entry under the other, below the plot. The height that they take.
@@ -193,7 +193,7 @@ void DrawSeries(Drawing& drawing, const Series& line, std::size_t kind, const Sc
     std::string points;
     for (const auto& [x, y] : line.Points)
         points += Fixed(OnAxis(across, x, Left, Right), 1) + ',' + Fixed(OnAxis(up, y, Bottom, Top), 1) + ' ';
-    drawing.Add("<polyline fill=\"none\" stroke=\"#000\" stroke-width=\"1.4\" points=\"" + points + '"' +
+    drawing.Add("<polyline fill='none' stroke='#000' stroke-width='1.4' points='" + points + "'" +
                 DashOf(kind) + "/>");
     // Markers would hide a curve of many points.
     const std::size_t every = 1 + line.Points.size() / 25;
@@ -217,8 +217,7 @@ std::string BarChart(const std::string& title, const std::string& xLabel, const 
     DrawVerticalAxis(drawing, up, yLabel);
     const double slot = (Right - Left) / static_cast<double>(bars.size());
     // Outlines would make many narrow bars one black field.
-    const std::string paint =
-        slot < 8 ? " fill=\"#999\"/>" : " fill=\"#bbb\" stroke=\"#000\" stroke-width=\"0.7\"/>";
+    const std::string paint = slot < 8 ? " fill='#999'/>" : " fill='#bbb' stroke='#000' stroke-width='0.7'/>";
     for (std::size_t i = 0; i < bars.size(); ++i) {
         const double left = Left + static_cast<double>(i) * slot;
         const double top = OnAxis(up, bars[i].Value, Bottom, Top);

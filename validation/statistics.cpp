@@ -44,10 +44,10 @@ class StatisticsChecks {
 
     Record& record_;
     const Scale& scale_;
+    double alarms_ = 0; ///< the chance of a false alarm of all statistics so far
     LinuxEntropy entropy_;
     LinuxClock clock_;
     DeliveredProgram program_{entropy_, clock_};
-    double alarms_ = 0; ///< the chance of a false alarm of all statistics so far
 };
 
 void StatisticsChecks::CheckArrangementsOf(const std::string& identifier, int size, int groups, int blocks) {
