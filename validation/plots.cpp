@@ -12,14 +12,14 @@
 namespace orvane::validation {
 namespace {
 
-// Units of the view box. A character of the labels is about 6 wide.
+// Units of the view box. A capital letter of the labels is about 7 wide.
 constexpr double Width = 640;
-constexpr double Left = 62;
+constexpr double Left = 84;
 constexpr double Right = 628;
 constexpr double Top = 30;
 constexpr double PlotHeight = 190;
 constexpr double Bottom = Top + PlotHeight;
-constexpr double CharacterWidth = 6;
+constexpr double CharacterWidth = 7;
 
 std::string At(const char* name, double value) {
     return std::string(" ") + name + "='" + Fixed(value, 1) + "'";
@@ -38,9 +38,9 @@ struct Scaling {
         return ticks;
     }
     [[nodiscard]] std::string Text(double tick) const {
-        if (High >= 1e6)
-            return Significant(tick, 4);
-        const int decimals = Step >= 1 ? 0 : static_cast<int>(std::ceil(-std::log10(Step) - 1e-9));
+        if (Step >= 1)
+            return Grouped(std::llround(tick));
+        const int decimals = static_cast<int>(std::ceil(-std::log10(Step) - 1e-9));
         return Fixed(tick, decimals);
     }
 };
