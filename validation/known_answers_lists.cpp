@@ -122,14 +122,14 @@ class OnePath : public CommonDialog {
 /// The output window: keeps its text, saves it once, and closes.
 class WindowThatSaves : public OutputWindow, public TextBox {
   public:
-    explicit WindowThatSaves(Platform& desktop) : document_(desktop, dialog_) {}
+    explicit WindowThatSaves(Platform& desktop) : file_(desktop, dialog_) {}
     void OutputFileName(const std::string& strOutputFileName, bool temporary) override {
-        document_.OutputFileName(strOutputFileName, temporary);
+        file_.OutputFileName(strOutputFileName, temporary);
     }
     void ShowModal() override {
-        document_.Form_Load(*this);
-        document_.SaveCmd_Click();
-        document_.Form_Unload();
+        file_.ReadInto(*this);
+        file_.SaveAs();
+        file_.DeleteIfTemporary();
     }
     void AppendLine(const std::string& text) override { Text += text + "\r\n"; }
 
@@ -137,7 +137,7 @@ class WindowThatSaves : public OutputWindow, public TextBox {
 
   private:
     OnePath dialog_;
-    ShownFile document_;
+    ShownFile file_;
 };
 
 void CompareWindow(Evidence& evidence) {
