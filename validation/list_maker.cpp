@@ -62,23 +62,26 @@ MadeList ListMaker::Make(const ListSetup& setup) {
         ReadBack(list);
     } catch (const std::exception& error) {
         list.NotMade = FirstLine(error.what());
-        Stop();
+        Kill();
     }
     return list;
 }
 
 void ListMaker::Restart(const ListSetup& setup) {
-    Stop();
+    Kill();
     driving::WriteFile(user_.SavedSettings(), SettingsBytes(setup));
     user_.StartProgram();
     user_.AwaitMain();
 }
 
-void ListMaker::Stop() {
-    if (!desktop_.Running())
-        return;
-    desktop_.Signal(SIGKILL);
-    desktop_.AwaitEnd();
+void ListMaker::Kill() {
+    try {
+        if (desktop_.Running()) {
+            desktop_.Signal(SIGKILL);
+            desktop_.AwaitEnd();
+        }
+    } catch (const Fault&) { // NOLINT(bugprone-empty-catch): the next start tells
+    }
 }
 
 void ListMaker::Generate(MadeList& list) {
@@ -117,12 +120,12 @@ void ListMaker::TakeFromWindow(MadeList& list) {
     });
     for (const fs::path& file : TemporaryFiles())
         seen.TemporaryFiles.push_back(Rights(file));
-    user_.FocusOn(driving::OutputTitle, "Save");
+    user_.TabTo(driving::OutputTitle, "Save");
     desktop_.Press({"space"});
     const driving::Window prompt = desktop_.Await(driving::SaveOutputTitle);
     user_.Answer(prompt, list.File);
     desktop_.AwaitGone(prompt);
-    user_.FocusOn(driving::OutputTitle, "Close");
+    user_.TabTo(driving::OutputTitle, "Close");
     desktop_.Press({"space"});
     desktop_.AwaitGone(output);
     TakeRunsMessage(list);

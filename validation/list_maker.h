@@ -23,16 +23,16 @@ class ListMaker {
     SetUp& Settings() { return setUp_; }
     /// Starts the program with these settings beside it, ending one that still runs.
     void Restart(const ListSetup& setup);
-    /// Kills the program if it still runs.
-    void Stop();
 
   private:
+    /// Ends the program if it still runs.
+    void Kill();
     void Generate(MadeList& list);
     void TakeFile(MadeList& list);
     void TakeFromWindow(MadeList& list);
     void TakeFromClipboard(MadeList& list);
     void TakeRunsMessage(MadeList& list);
-    /// The rights of the temporary lists beside the program, by name.
+    /// The temporary lists beside the program.
     [[nodiscard]] std::vector<std::filesystem::path> TemporaryFiles() const;
 
     driving::Desktop desktop_;

@@ -9,7 +9,7 @@ namespace orvane::validation {
 
 struct ListWorkplace {
     std::filesystem::path Program;  ///< folder of the program and of what is delivered beside it
-    std::filesystem::path Evidence; ///< folder in which the lists are kept
+    std::filesystem::path Evidence; ///< folder of the record; the lists are kept in its folder "lists"
 };
 
 /// Makes the lists of a design on the display of this session, reads them back and judges them. Without a
