@@ -42,6 +42,7 @@ constexpr std::size_t Open = static_cast<std::size_t>(-1); // a factor without a
 template <std::size_t Count>
 std::vector<std::string> Numbers(const std::array<int, Count>& values) {
     std::vector<std::string> texts;
+    texts.reserve(values.size());
     for (const int value : values)
         texts.push_back(std::to_string(value));
     return texts;
@@ -49,6 +50,7 @@ std::vector<std::string> Numbers(const std::array<int, Count>& values) {
 
 std::vector<std::string> PageTexts() {
     std::vector<std::string> texts;
+    texts.reserve(PageLooks.size());
     for (const PageLook& look : PageLooks)
         texts.push_back(std::string(look.Border ? "border" : "no border") + ", spacing " +
                         std::to_string(look.Spacing));
@@ -59,7 +61,9 @@ std::vector<std::string> PageTexts() {
 struct Choice {
     std::size_t Factor;
     std::size_t Level;
-    auto operator<=>(const Choice&) const = default;
+    bool operator<(const Choice& other) const {
+        return std::tie(Factor, Level) < std::tie(other.Factor, other.Level);
+    }
 };
 
 using Pair = std::tuple<Choice, Choice>;

@@ -29,7 +29,6 @@ struct Coverage {
     std::size_t Pairs = 0; ///< of levels of two factors that are possible together
     std::size_t CoveredPairs = 0;
     std::vector<std::string> Missing; ///< the pairs that are not covered
-    std::vector<std::string> Refused; ///< the pairs that are not possible
 };
 
 /// Counts anew, from the lists alone, what they cover.

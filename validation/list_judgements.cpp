@@ -60,8 +60,8 @@ Faults SizeFaults(const MadeList& list, const Fits& fits) {
 }
 
 std::string Characters(Alphabet alphabet) {
-    const std::string digits = "0123456789";
-    const std::string letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+    std::string digits = "0123456789";
+    std::string letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
     switch (alphabet) {
     case Alphabet::Letters:
         return letters;
@@ -87,6 +87,7 @@ std::vector<double> Values(const MadeList& list) {
     std::vector<double> values;
     for (const auto& block : list.Blocks) {
         std::vector<int> groups;
+        groups.reserve(block.size());
         for (const Subject& subject : block)
             groups.push_back(subject.Group);
         values.push_back(RunsTestValue(groups));

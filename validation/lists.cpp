@@ -31,6 +31,8 @@ void CheckDesign(Evidence& evidence, const Scale& scale, const std::vector<Combi
     else
         evidence.Compare("pairs of choices that meet in some list", Number(coverage.Pairs),
                          Number(coverage.CoveredPairs));
+    for (const std::string& pair : coverage.Missing)
+        evidence.Demand(scale.Quick, "no list has " + pair);
     std::vector<Row> rows;
     for (const Factor& factor : Factors()) {
         std::string levels;
@@ -91,6 +93,7 @@ void MakeLists(Evidence& evidence, ListMaker& maker, const std::vector<ListSetup
         std::cout << '.' << std::flush; // this check takes longest
     }
     std::vector<Row> rows;
+    rows.reserve(lists.size());
     for (const MadeList& list : lists)
         rows.push_back(ResultRow(list));
     evidence.Table({"List", "Set-up", "Blocks", "Groups", "Sample size", "Codes", "Form", "Columns",
