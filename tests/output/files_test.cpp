@@ -2,6 +2,7 @@
 // clipboard.
 
 #include "list_desk.h"
+#include "output/shown_file.h"
 #include "output/text_file.h"
 
 #include <new>
