@@ -76,6 +76,7 @@ TEST_F(OutputFormTest, SaveCopiesTheFileAndNotWhatWasTyped) {
         EXPECT_EQ(desktop.messages.Take(), "Only text files allowed!");
         Click(window, "SaveCmd");
         Click(window, "SaveCmd");
+        Click(window, "SaveCmd"); // cancelled, and nobody is told
         desktop.files.Fails = {"Copy"};
         CMDialog.Answers = {"/home/c.txt"};
         Click(window, "SaveCmd");

@@ -119,6 +119,7 @@ TEST_F(SettingsTest, AValueIsTakenOrEndsTheLoad) {
         {14, {"32767.5", "-32769"}, ""},
         {14, {"32766.5"}, "32766"},
         {16, {"&HFFFF"}, "65535"},
+        {22, {"3", "-1"}, ""},
         {22, {"1.5"}, "2"}};
     for (const auto& [line, texts, saved] : rows)
         for (const std::string& text : texts) {
@@ -135,20 +136,24 @@ TEST_F(SettingsTest, AValueIsTakenOrEndsTheLoad) {
 
 TEST_F(SettingsTest, WhatNoLineCanHoldIsRefusedBeforeTheFileIsOpenedAndReplacedAtTheEnd) {
     auto& grid = Find<FlexGridWidget>(form, "GroupNameGrid");
+    std::int16_t row = 0;
     desktop.files.Contents["/s.stg"] = "kept";
     const auto refused = [&] { return Save() + desktop.files.Contents["/s.stg"]; };
     const std::string tooLarge(SettingsFile::LargestFile, 'x');
     for (const std::string& text : {std::string("a\rb"), std::string("a\u2265b"), tooLarge}) {
+        grid.SetRow(++row);
         grid.SetText(text);
         EXPECT_EQ(refused(), "reportkept");
+        grid.SetText("a");
     }
-    grid.SetText("a");
-    for (const std::string field : {"EqBlockSizeTxt", "UnEqBlockSizeTxt"}) {
-        WithOptions([&](QDialog& window) {
-            Find<LineBox>(window, field).setText(QStringLiteral("\u2265"));
-            EXPECT_EQ(refused(), "reportkept");
-            Click(window, "cmdCancel");
+    for (const auto& [size, sizes] : {std::pair("\u2265", "4"), {"4", "\u2265"}}) {
+        WithOptions([s = QString(size), list = QString(sizes)](QDialog& window) {
+            Click(window, "BlkOpt_0");
+            Find<LineBox>(window, "EqBlockSizeTxt").setText(s);
+            Find<LineBox>(window, "UnEqBlockSizeTxt").setText(list);
+            Click(window, "cmdOK");
         });
+        EXPECT_EQ(refused(), "reportkept");
     }
     grid.SetText("a\u2265\rb");
     form.close();
