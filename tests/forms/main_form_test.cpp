@@ -309,7 +309,8 @@ TEST_F(MainFormTest, ANameIsPickedWithTheMouseAndTypedOver) {
     EXPECT_EQ(Focus(), "GroupNameGrid");
 
     for (int row = 0; row <= 3; ++row)
-        EXPECT_EQ(Grid().model()->headerData(row, Qt::Vertical), row == 0 ? "" : QString::number(row));
+        EXPECT_EQ(Grid().model()->headerData(row, Qt::Vertical).toString(),
+                  row == 0 ? "" : QString::number(row));
 
     const QImage image = Grid().viewport()->grab().toImage();
     const auto colour = [&](int row, int col) {
@@ -475,7 +476,8 @@ TEST_F(MainFormTest, ClosingWritesTheSettingsOnceUnlessTheBoxIsCleared) {
 
 TEST_F(MainFormTest, AClosingDuringWorkWaitsForItsEndAndNeedsNoSettingsFile) {
     Open();
-    desktop.messages.WhileShown = [&] { EXPECT_FALSE(form->close()); };
+    bool working = true;
+    desktop.messages.WhileShown = [&] { EXPECT_NE(form->close(), std::exchange(working, false)); };
     desktop.files.Fails = {"Delete", "OpenForOutput"};
     TypeInto(SampSizeTxt(), "");
     Click(*form, "cmdGenerate");
