@@ -32,7 +32,7 @@ EndSignals::EndSignals() : descriptor_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
     if (descriptor_ < 0)
         throw Failure("The system has no descriptor for the signals that end the program", errno, "eventfd");
     signalled = descriptor_;
-    std::signal(SIGPIPE, SIG_IGN);
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
         struct sigaction before = {};
         ::sigaction(number, nullptr, &before);
@@ -50,7 +50,7 @@ EndSignals::~EndSignals() {
         struct sigaction now = {};
         ::sigaction(number, nullptr, &now);
         if (now.sa_handler == OnSignal)
-            std::signal(number, SIG_DFL);
+            static_cast<void>(std::signal(number, SIG_DFL));
     }
     signalled = -1;
     ::close(descriptor_);
