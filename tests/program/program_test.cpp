@@ -104,9 +104,9 @@ TEST_P(EnterTest, PressesTheDefaultButtonFromEveryControl) {
     user.AwaitMain();
     user.FocusOn(MainTitle, "Save settings on exit");
     Window options = user.OpenOptions();
-    user.Fill(OptionsTitle, "Block size", "4");
+    user.Fill(OptionsTitle, "Size of Equal Blocks", "4");
     desktop.Press({"Return"});
-    const fs::path list = desktop.Folder() / "lists of a trial" / "first list.txt";
+    const fs::path list = user.Folder() / GetParam() / "first list.txt";
     fs::create_directories(list.parent_path());
     user.Answer(desktop.Await(SaveListTitle), list.string());
     user.AwaitViewer("reader", list);

@@ -86,8 +86,8 @@ void Desktop::Start(const fs::path& program, const std::string& kind) {
     g_subprocess_launcher_set_stdout_file_path(launcher.get(), Log().c_str());
     if (!kind.empty())
         g_subprocess_launcher_setenv(launcher.get(), "XDG_CURRENT_DESKTOP", kind.c_str(), TRUE);
-    if (kind == "KDE")
-        g_subprocess_launcher_setenv(launcher.get(), "KDE_SESSION_VERSION", "5", TRUE);
+    // Set on every desktop; it means something only together with KDE's name.
+    g_subprocess_launcher_setenv(launcher.get(), "KDE_SESSION_VERSION", "5", TRUE);
     program_ = Spawn(launcher.get(), {program.string()});
 }
 
