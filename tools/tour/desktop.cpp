@@ -119,11 +119,20 @@ std::optional<Window> Desktop::Active() const {
     return Window{Line(*id), Line(*title)};
 }
 
-Window Desktop::Await(const std::string& title, std::string_view except) {
+Window Desktop::Await(const std::string& title) {
     std::optional<Window> found;
     AwaitThat("the window \"" + title + "\"", [&] {
         found = Active();
-        return found && found->Title == title && found->Id != except;
+        return found && found->Title == title;
+    });
+    return *found;
+}
+
+Window Desktop::AwaitOther(const Window& window) {
+    std::optional<Window> found;
+    AwaitThat("a window in front of \"" + window.Title + "\"", [&] {
+        found = Active();
+        return found && found->Id != window.Id;
     });
     return *found;
 }

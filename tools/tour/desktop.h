@@ -11,7 +11,6 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <gio/gio.h>
@@ -77,8 +76,10 @@ class Desktop {
     /// The window that has the keys.
     [[nodiscard]] std::optional<Window> Active() const;
     [[nodiscard]] std::vector<std::string> Titles() const { return reader_.Titles(); }
-    /// Waits until a window of exactly this title takes the keys, other than the one of the id `except`.
-    Window Await(const std::string& title, std::string_view except = {});
+    /// Waits until a window of exactly this title takes the keys.
+    Window Await(const std::string& title);
+    /// Waits until any other window than this one takes the keys.
+    Window AwaitOther(const Window& window);
     /// Waits until a window that had the keys has given them to another one, or is closed.
     void AwaitGone(const Window& window);
     /// Waits until `come` is true; `what` names it in the Fault.

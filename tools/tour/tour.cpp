@@ -220,7 +220,7 @@ class Tour {
         const Window prompt = desktop_.Await(SaveListTitle);
         const std::string before = ReadFile(album_.Path("list.htm"));
         user_.Answer(prompt, album_.Path("list.htm").string());
-        const Window question = desktop_.Await(SaveListTitle, prompt.Id);
+        const Window question = desktop_.AwaitOther(prompt);
         Take(question, "overwrite question", "overwrite-question");
         desktop_.Press({"Escape"});
         desktop_.AwaitGone(question);
