@@ -4,6 +4,7 @@
 #include "validation/conclusion.h"
 #include "validation/identity.h"
 #include "validation/json_record.h"
+#include "validation/known_answers.h"
 #include "validation/lists.h"
 #include "validation/output_folder.h"
 #include "validation/page.h"
@@ -35,7 +36,9 @@ std::string InWords(Clock::duration time) {
     return std::to_string(seconds / 60) + " min " + std::to_string(seconds % 60) + " s";
 }
 
-void RunChecks(Record& record, const Scale& scale) {
+void RunChecks(Record& record, const Scale& scale, const ListWorkplace& place) {
+    CheckKnownAnswers(record, scale);
+    CheckLists(record, scale, place);
     CheckStatistics(record, scale);
     CheckConcealment(record, scale);
     CheckStatisticsChecks(record, scale);
@@ -76,7 +79,7 @@ int Validate(const Arguments& arguments) {
               << arguments.App.string() << (run.Quick ? ", quick form" : "") << std::endl;
 
     Record record;
-    RunChecks(record, {run.Quick});
+    RunChecks(record, {run.Quick}, {fs::canonical(arguments.App), output.Path()});
     run.Duration = InWords(Clock::now() - start);
     run.Evidence = EvidenceIn(output.Path());
     CheckPrinting(record, run, work.Path());
