@@ -6,7 +6,7 @@
 #include "validation/known_answers_options.h"
 #include "validation/known_answers_parts.h"
 #include "validation/statistics_program.h"
-#include "validation/statistics_runs_test.h"
+#include "validation/statistics_samples.h"
 
 #include <algorithm>
 
@@ -100,7 +100,7 @@ void CompareAllArrangements(Evidence& evidence) {
             equal += std::abs(p - RunsDensity(arrangement)) < 1e-6 ? 1 : 0;
         } while (std::next_permutation(arrangement.begin(), arrangement.end()));
         evidence.Compare("P values of the arrangements of " + block + " that are equal to 6 decimals",
-                         std::to_string(all), std::to_string(equal), "calculated anew with Boost.Math");
+                         std::to_string(all), std::to_string(equal), "calculated anew from the definition");
     }
 }
 

@@ -1,7 +1,7 @@
 #include "validation/statistics_samples.h"
 
 #include "validation/figures.h"
-#include "validation/statistics_runs_test.h"
+#include "validation/list_p_value.h"
 
 #include <boost/math/distributions/hypergeometric.hpp>
 #include <boost/math/special_functions/binomial.hpp>
@@ -65,6 +65,13 @@ int CountOfRuns(const Arrangement& arrangement) {
     for (std::size_t i = 1; i < arrangement.size(); ++i)
         runs += arrangement[i] == arrangement[i - 1] ? 0 : 1;
     return runs;
+}
+
+double RunsDensity(const Arrangement& arrangement) {
+    std::vector<int> groups;
+    for (const char letter : arrangement)
+        groups.push_back(letter - 'A' + 1);
+    return RunsTestValue(groups);
 }
 
 std::array<Sample, 3> BitsOfValues(DrawingProgram& program, int count) {

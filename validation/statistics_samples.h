@@ -55,4 +55,7 @@ std::int64_t RepeatedCodes(DrawingProgram& program, std::int16_t length, std::in
 /// The runs of a block: a run is a stretch of one letter.
 int CountOfRuns(const Arrangement& arrangement);
 
+/// The P value that the Runs test gives to a block, computed anew; NaN where it has none.
+double RunsDensity(const Arrangement& arrangement);
+
 } // namespace orvane::validation

@@ -1,6 +1,6 @@
 #include "validation/wrong_programs_model.h"
 
-#include "validation/statistics_runs_test.h"
+#include "validation/statistics_samples.h"
 
 #include <cmath>
 #include <cstddef>
