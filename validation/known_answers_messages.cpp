@@ -82,15 +82,13 @@ void CompareKeptText(Evidence& evidence) {
     settings.prUnEqBlockSize = "6,,8";
     const std::string before = settings.prUnEqBlockSize;
     ListedValues source;
-    StoppedClock clock;
-    KeptMessages messages;
-    NoPointer pointer;
+    MemoryDesktop desktop(source);
     FilledInOptions window;
     ListResults results;
     const MemoryNames names({"A", "B"});
-    OptionValidation options(settings, results, names, window, messages, pointer, source, clock);
+    OptionValidation options(settings, results, names, window, desktop.All);
     options.cmdOK_Click();
-    evidence.Demand(!messages.Shown.empty(), "The list of sizes was not refused.");
+    evidence.Demand(!desktop.Messages.Shown.empty(), "The list of sizes was not refused.");
     evidence.Compare("List of sizes after the refusal", before, settings.prUnEqBlockSize, ByHand);
 }
 

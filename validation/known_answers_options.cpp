@@ -19,16 +19,14 @@ ListSettings ValidSettings(std::int16_t groups, std::int16_t sampleSize) {
 OkResult PressOk(ListSettings settings, const std::string& level, const std::vector<float>& values,
                  const Texts& names) {
     ListedValues source(values);
-    StoppedClock clock;
-    KeptMessages messages;
-    NoPointer pointer;
+    MemoryDesktop desktop(source);
     FilledInOptions window;
     window.Level = level;
     ListResults results;
     const MemoryNames grid(names.empty() ? GroupLetters(settings.NumberOfGroups) : names);
-    OptionValidation options(settings, results, grid, window, messages, pointer, source, clock);
+    OptionValidation options(settings, results, grid, window, desktop.All);
     options.cmdOK_Click();
-    OkResult result{messages.Take(), window.Focus, ""};
+    OkResult result{desktop.Messages.Take(), window.Focus, ""};
     if (settings.SelectedCmd == ClosedByOK)
         result.Sizes =
             Listed(std::vector<std::int16_t>(results.BlockSizes.begin() + 1, results.BlockSizes.end()));

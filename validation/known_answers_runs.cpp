@@ -82,8 +82,7 @@ void ComparePValues(Evidence& evidence) {
     KeptMessages messages;
     for (const auto& row : rows)
         evidence.Compare(std::string("P value of ") + row.Block, row.P,
-                         Fixed(GetRandomness(NumbersOf(row.Block), messages).PValue, row.Decimals),
-                         row.Source);
+                         Fixed(GetRandomness(NumbersOf(row.Block), messages), row.Decimals), row.Source);
     evidence.Demand(messages.Shown.empty(), "A message came with a P value.");
 }
 
@@ -95,7 +94,7 @@ void CompareAllArrangements(Evidence& evidence) {
         int all = 0;
         int equal = 0;
         do {
-            const double p = GetRandomness(NumbersOf(arrangement), messages).PValue;
+            const double p = GetRandomness(NumbersOf(arrangement), messages);
             ++all;
             equal += std::abs(p - RunsDensity(arrangement)) < 1e-6 ? 1 : 0;
         } while (std::next_permutation(arrangement.begin(), arrangement.end()));
@@ -179,9 +178,7 @@ std::string MessageAfter(float lowest, float highest) {
     ClosedByOk options;
     NoBox box;
     KnownPValues channels(list.Results, lowest, highest);
-    Generation(list.Settings, list.Results, options, channels, box, list.Desktop.Messages,
-               list.Desktop.Pointer, source, list.Desktop.Clock)
-        .cmdGenerate_Click();
+    Generation(list.Settings, list.Results, options, channels, box, list.Desktop.All).cmdGenerate_Click();
     return list.Desktop.Messages.Take();
 }
 

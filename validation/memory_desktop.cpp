@@ -10,7 +10,7 @@
 namespace orvane::validation {
 namespace {
 
-class Output : public OutputFile {
+class Output : public WritableFile {
   public:
     explicit Output(std::string& content) : content_(content) {}
     void Write(std::string_view bytes) override { content_.append(bytes); }
@@ -20,7 +20,7 @@ class Output : public OutputFile {
     std::string& content_;
 };
 
-class Input : public InputFile {
+class Input : public ReadableFile {
   public:
     explicit Input(std::string content) : content_(std::move(content)) {}
     std::size_t Read(std::span<char> buffer) override {
@@ -58,16 +58,16 @@ float ValueFor(int Lo, int Hi, int wanted) {
     return wanted == Hi ? highest : static_cast<float>(static_cast<double>(wanted - Lo) / (Hi - Lo));
 }
 
-std::unique_ptr<OutputFile> MemoryFiles::OpenForOutput(const std::string& path) {
+std::unique_ptr<WritableFile> MemoryFiles::OpenForOutput(const std::string& path) {
     Contents[path].clear();
     return std::make_unique<Output>(Contents[path]);
 }
 
-std::unique_ptr<OutputFile> MemoryFiles::CreatePrivate(const std::string& path) {
+std::unique_ptr<WritableFile> MemoryFiles::CreatePrivate(const std::string& path) {
     return OpenForOutput(path);
 }
 
-std::unique_ptr<InputFile> MemoryFiles::OpenForInput(const std::string& path) {
+std::unique_ptr<ReadableFile> MemoryFiles::OpenForInput(const std::string& path) {
     return std::make_unique<Input>(Contents.at(path));
 }
 

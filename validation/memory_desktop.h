@@ -131,9 +131,9 @@ float ValueFor(int Lo, int Hi, int wanted);
 /// Files by their path.
 class MemoryFiles : public Files {
   public:
-    std::unique_ptr<OutputFile> OpenForOutput(const std::string& path) override;
-    std::unique_ptr<OutputFile> CreatePrivate(const std::string& path) override;
-    std::unique_ptr<InputFile> OpenForInput(const std::string& path) override;
+    std::unique_ptr<WritableFile> OpenForOutput(const std::string& path) override;
+    std::unique_ptr<WritableFile> CreatePrivate(const std::string& path) override;
+    std::unique_ptr<ReadableFile> OpenForInput(const std::string& path) override;
     void Copy(const std::string& from, const std::string& to) override { Contents[to] = Contents.at(from); }
     void Delete(const std::string& path) override { Contents.erase(path); }
     bool Exists(const std::string& path) override { return Contents.contains(path); }
