@@ -7,8 +7,19 @@
 #include <numeric>
 #include <set>
 #include <sstream>
+#include <stdexcept>
 
 namespace orvane::validation {
+namespace {
+
+/// A source whose values repeat would never give a new code or another block.
+void RequireFewAttempts(int attempts) {
+    constexpr int most = 100'000;
+    if (attempts > most)
+        throw std::runtime_error("the random source gives nothing new");
+}
+
+} // namespace
 
 ModelProgram::ModelProgram(Entropy& entropy, TimeOfDay& clock, Fault fault)
     : entropy_(entropy), clock_(clock), fault_(fault), source_(std::make_unique<RandomSource>(entropy)) {}
@@ -94,10 +105,13 @@ Arrangement ModelProgram::Block(int size, int groups, float level) {
         exchanges = size;
     if (isContinued)
         exchanges = size / 4;
+    const bool isTested = level > 0 && fault_ != Fault::IgnoredRunsTest;
+    int attempts = 0;
     do {
+        RequireFewAttempts(++attempts);
         Reseed();
         Exchange(block, exchanges);
-    } while (level > 0 && fault_ != Fault::IgnoredRunsTest && !(RunsDensity(block) > level));
+    } while (isTested && !(RunsDensity(block) > level));
     before_ = block;
     return block;
 }
@@ -143,10 +157,14 @@ std::string ModelProgram::Code(std::int32_t alphabet, int length) {
 std::vector<std::string> ModelProgram::Codes(std::int32_t alphabet, std::int16_t length, std::int16_t count) {
     std::vector<std::string> codes;
     std::set<std::string> used;
+    int attempts = 0;
     while (codes.size() < static_cast<std::size_t>(count)) {
+        RequireFewAttempts(++attempts);
         const std::string code = Code(alphabet, length);
-        if (used.insert(code).second)
-            codes.push_back(code);
+        if (!used.insert(code).second)
+            continue;
+        codes.push_back(code);
+        attempts = 0;
     }
     if (fault_ == Fault::RepeatedCode)
         codes.back() = codes.front();
