@@ -47,8 +47,8 @@ class User {
     void ForgetSettings() const { std::filesystem::remove(SavedSettings()); }
     void KeepSettings(const SettingsText& settings) const { WriteFile(SavedSettings(), BytesOf(settings)); }
 
-    /// The copy of the program's folder. A blank stands in its name.
-    [[nodiscard]] std::filesystem::path Folder() const { return desktop_.Folder() / "Orvane program"; }
+    /// The copy of the program's folder. Blanks and letters outside ASCII stand in its name.
+    [[nodiscard]] std::filesystem::path Folder() const { return desktop_.Folder() / "Orvane für Prüfungen"; }
     [[nodiscard]] std::filesystem::path SavedSettings() const { return Folder() / "saved.stg"; }
 
     /// Starts the program as on the desktop `kind`; a message of the start is for the caller.
