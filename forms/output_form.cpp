@@ -6,6 +6,8 @@
 #include "ui_output_form.h"
 
 #include <QKeyEvent>
+#include <QTextDocument>
+#include <QTextOption>
 
 #include <string>
 
@@ -49,6 +51,10 @@ ListWindow::ListWindow(ShownFile& file, Platform& desktop)
     connect(ui_.CloseCmd, &QPushButton::clicked, this,
             [this] { guard_.Handle([this] { CloseCmd_Click(); }); });
     connect(ui_.SaveCmd, &QPushButton::clicked, this, [this] { guard_.Handle([this] { SaveCmd_Click(); }); });
+    // The columns of a list stay in order also with names that are written from right to left.
+    QTextOption leftToRight = ui_.OutputTxt->document()->defaultTextOption();
+    leftToRight.setTextDirection(Qt::LeftToRight);
+    ui_.OutputTxt->document()->setDefaultTextOption(leftToRight);
     ui_.OutputTxt->setFocus();
 }
 

@@ -72,7 +72,9 @@ void TextFileReader::SkipLineFeed() {
 
 std::string TextFileReader::ReadLine() {
     if (AtEnd())
-        throw Failure("The file " + path_ + " ends too early", failure_number::EndOfFile, "reading a line");
+        throw Failure("The file " + path_ + " ends too early" +
+                          (lineFeedInLine_ ? ": its lines must end in CR LF, not in LF alone" : ""),
+                      failure_number::EndOfFile, "reading a line");
     std::size_t end = LineEndFrom(next_);
     while (end == std::string::npos) {
         const std::size_t searched = buffer_.size() - next_;
@@ -87,6 +89,7 @@ std::string TextFileReader::ReadLine() {
                           std::to_string(rules_.LongestLine) + " characters",
                       failure_number::TooLarge, "reading a line");
     std::string line = page_.Decode(std::string_view(buffer_).substr(next_, length));
+    lineFeedInLine_ = lineFeedInLine_ || line.find('\n') != std::string::npos;
     next_ += length + (ended ? 1 : 0);
     behindReturn_ = ended && buffer_[end] == '\r';
     return line;

@@ -51,8 +51,9 @@ class TextFileReader {
 
     /// True when no character is left. Throws a TooLarge failure when a file passes LargestFile.
     bool AtEnd();
-    /// The next line without its end. Throws an EndOfFile failure when no character is left, and a TooLarge
-    /// failure for a line that passes LongestLine and for a file that passes LargestFile.
+    /// The next line without its end. Throws an EndOfFile failure when no character is left; its description
+    /// names CR LF if a line before held a lone LF. Throws a TooLarge failure for a line that passes
+    /// LongestLine and for a file that passes LargestFile.
     std::string ReadLine();
 
   private:
@@ -69,8 +70,9 @@ class TextFileReader {
     LineRules rules_;
     std::string buffer_;
     std::size_t next_ = 0;
-    std::size_t read_ = 0;      ///< bytes of the file so far
-    bool behindReturn_ = false; ///< an LF that comes next belongs to the line already read
+    std::size_t read_ = 0;        ///< bytes of the file so far
+    bool behindReturn_ = false;   ///< an LF that comes next belongs to the line already read
+    bool lineFeedInLine_ = false; ///< a line that was read has a lone LF in it
 };
 
 } // namespace orvane
