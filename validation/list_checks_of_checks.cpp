@@ -33,8 +33,13 @@ std::string Joined(const std::vector<std::string>& words) {
 }
 
 std::vector<MadeList> RightLists() {
-    return {RightList(Form::TextFile), RightList(Form::WebPage), RightList(Form::Window),
-            RightList(Form::Clipboard), RightRestList()};
+    return {RightList(Form::TextFile),
+            RightList(Form::WebPage),
+            RightList(Form::Window),
+            RightList(Form::Clipboard),
+            RightRestList(),
+            RightEvenList(BlockOption::Equal),
+            RightEvenList(BlockOption::RandomSizes)};
 }
 
 void CheckRightLists(Evidence& evidence, const ListCheck& check) {
@@ -44,6 +49,7 @@ void CheckRightLists(Evidence& evidence, const ListCheck& check) {
         for (const std::string& fault : Said(check, list))
             evidence.Demand(false, "a right list is found wrong: " + fault);
     }
+    evidence.Demand(judged > 0, "there is no right list for this check");
     evidence.Paragraph("Right lists that the check lets pass: " + std::to_string(judged) + ".");
 }
 

@@ -53,17 +53,17 @@ Row SetupRow(const ListSetup& setup) {
         blocks += " of " + std::to_string(setup.EqualSize);
     if (setup.Blocks == BlockOption::Listed)
         blocks += " " + setup.ListedSizesText;
+    std::string form = Text(setup.Output) + ", " + std::to_string(setup.Columns) +
+                       (setup.Columns == 1 ? " column" : " columns");
+    if (setup.Output == Form::WebPage)
+        form += std::string(setup.Border ? ", border" : ", no border") + ", spacing " +
+                std::to_string(setup.Spacing);
     return {std::to_string(setup.Number),
             Text(setup.Input),
             blocks,
-            std::to_string(setup.GroupCount()),
-            std::to_string(setup.SampleSize),
+            std::to_string(setup.SampleSize) + " in " + std::to_string(setup.GroupCount()),
             CodeText(setup),
-            Text(setup.Output),
-            std::to_string(setup.Columns) +
-                (setup.Output == Form::WebPage
-                     ? (setup.Border ? ", border, " : ", no border, ") + std::to_string(setup.Spacing)
-                     : ""),
+            form,
             setup.RunsTest() ? setup.Level : "off"};
 }
 
@@ -96,15 +96,13 @@ void MakeLists(Evidence& evidence, ListMaker& maker, const std::vector<ListSetup
     rows.reserve(lists.size());
     for (const MadeList& list : lists)
         rows.push_back(ResultRow(list));
-    evidence.Table({"List", "Set-up", "Blocks", "Groups", "Sample size", "Codes", "Form", "Columns",
-                    "Runs test", "Blocks found"},
-                   rows, "The lists, and the blocks that were read back");
+    evidence.Table(
+        {"List", "Set-up", "Blocks", "Sample size in groups", "Codes", "Form", "Runs test", "Blocks found"},
+        rows, "The lists, and the blocks that were read back");
     evidence.Paragraph(
         "Set-up: typed, with keys alone; clicked, with the mouse in the options window; loaded, from "
-        "a settings file, the rest with keys.");
-    for (const MadeList& list : lists)
-        if (list.NotMade.empty())
-            evidence.File(std::string(ListFolder) + "/" + FileName(list.Setup));
+        "a settings file, the rest with keys. The lists are kept in the folder \"" +
+        std::string(ListFolder) + "\", list 1 as list-01, web pages as .htm, others as .txt.");
 }
 
 /// Runs one check over all lists to which it applies.

@@ -243,6 +243,21 @@ MadeList RightRestList() {
     return list;
 }
 
+MadeList RightEvenList(BlockOption option) {
+    MadeList list;
+    list.Setup.Blocks = option;
+    list.Setup.EqualSize = 4;
+    list.Setup.SampleSize = 10;
+    list.Setup.Columns = 1;
+    list.Bytes = "001: Group 1\r\n002: Group 2\r\n003: Group 2\r\n004: Group 1\r\n" + Ruled(20) +
+                 "005: Group 2\r\n006: Group 2\r\n007: Group 1\r\n008: Group 1\r\n" + Ruled(20) +
+                 "009: Group 1\r\n010: Group 2\r\n011: Group 1\r\n012: Group 2\r\n" + Ruled(20);
+    list.File = "list.txt";
+    list.Viewer = {"reader", list.File};
+    ReadBack(list);
+    return list;
+}
+
 std::vector<WrongList> WrongLists() {
     std::vector<WrongList> wrong;
     AddAssignmentFaults(wrong);

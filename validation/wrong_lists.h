@@ -14,6 +14,9 @@ MadeList RightList(Form form);
 /// A list without any fault: one block of three subjects, so that the first group has one more.
 MadeList RightRestList();
 
+/// A list without any fault: three blocks of four subjects, under equal blocks of 4 or under random sizes.
+MadeList RightEvenList(BlockOption option);
+
 struct WrongList {
     std::string What;  ///< is wrong
     std::string Check; ///< identifier of the check that must find it
