@@ -117,7 +117,13 @@ void CompareHopelessBlocks(Evidence& evidence) {
     } rows[] = {
         {"A block of 1", 1, {"A", "B"}, 0.05F, refusal("1", "0.05")},
         {"A block of 2", 2, {"A", "B"}, 0.05F, refusal("2", "0.05")},
-        {"A block of 20 whose groups have one name", 20, {"A", "A"}, 0.05F, refusal("20", "0.05")},
+        {"A block of 20 whose groups have one name",
+         20,
+         {"A", "A"},
+         0.05F,
+         "a block of 20 subjects cannot pass the Runs test since all its groups have the same name, please "
+         "give the "
+         "groups different names"},
         {"A block of 4, one against three, at level 0.25",
          4,
          {"A", "B", "B", "B"},

@@ -22,7 +22,10 @@ nav ol { list-style: none; padding: 0; margin: 0; columns: 2; }
 nav li { margin: 0 0 1mm; }
 table { border-collapse: collapse; width: 100%; margin: 1mm 0 4mm; font-size: 8.5pt; line-height: 1.3; }
 caption { text-align: left; font-style: italic; padding: 0 0 1mm; }
-th, td { border: 0.5pt solid #666; padding: 0.8mm 1.6mm; text-align: left; vertical-align: top; overflow-wrap: anywhere; }
+th, td { border: 0.5pt solid #666; padding: 0.8mm 1.6mm; text-align: left; vertical-align: top; overflow-wrap: break-word; }
+td.long { overflow-wrap: anywhere; }
+table.wide { font-size: 7pt; }
+table.wide th, table.wide td { padding: 0.6mm 0.8mm; }
 thead th { background: #e8e8e8; border-bottom: 1.2pt solid #000; overflow-wrap: break-word; }
 thead { display: table-header-group; }
 tr, figure, table.short, .conclusion, .signatures { break-inside: avoid; }

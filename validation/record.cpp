@@ -22,10 +22,28 @@ bool IsFigure(const std::string& text) {
     return text.size() <= longest && text.find_first_not_of("0123456789.,+-e%") == std::string::npos;
 }
 
+/// Whether the text has a word so long that it has to be broken anywhere to fit a column.
+bool HasLongWord(const std::string& text) {
+    constexpr std::size_t longest = 20;
+    std::size_t length = 0;
+    for (const char c : text) {
+        length = c == ' ' ? 0 : length + 1;
+        if (length > longest)
+            return true;
+    }
+    return false;
+}
+
+std::string CellClass(const std::string& text) {
+    if (IsFigure(text))
+        return " class=\"figure\"";
+    return HasLongWord(text) ? " class=\"long\"" : "";
+}
+
 std::string BodyRow(const Row& row) {
     std::string cells;
     for (const std::string& text : row)
-        cells += (IsFigure(text) ? "<td class=\"figure\">" : "<td>") + Escaped(text) + "</td>";
+        cells += "<td" + CellClass(text) + ">" + Escaped(text) + "</td>";
     return "<tr>" + cells + "</tr>\n";
 }
 
@@ -33,8 +51,11 @@ std::string BodyRow(const Row& row) {
 constexpr std::size_t ShortTable = 12;
 
 std::string TableStart(std::size_t rows, const std::string& caption, const Row& head) {
-    return std::string(rows <= ShortTable ? "<table class=\"short\">" : "<table>") + "<caption>" +
-           Escaped(caption) + "</caption>\n" + HeadCells(head) + "<tbody>\n";
+    constexpr std::size_t manyColumns = 7;
+    const std::string kind =
+        std::string(rows <= ShortTable ? "short" : "") + (head.size() > manyColumns ? " wide" : "");
+    return "<table class=\"" + kind + "\"><caption>" + Escaped(caption) + "</caption>\n" + HeadCells(head) +
+           "<tbody>\n";
 }
 
 void ShowStart(const std::string& identifier, const std::string& title) {
@@ -92,12 +113,17 @@ void Evidence::File(const std::string& name) {
 std::string Evidence::Html() const {
     if (comparisons_.empty())
         return html_;
+    // One source of all stands in the caption, so that the columns are wide enough to read.
+    const std::string& first = comparisons_.front().Source;
     const bool sources = std::any_of(comparisons_.begin(), comparisons_.end(),
-                                     [](const Comparison& c) { return !c.Source.empty(); });
+                                     [&first](const Comparison& c) { return c.Source != first; });
     Row head{"What", "Expected", "Observed", "Result"};
     if (sources)
         head.emplace_back("Source");
-    std::string table = TableStart(comparisons_.size(), "Expected and observed", head);
+    std::string caption = "Expected and observed";
+    if (!sources && !first.empty())
+        caption += "; source of the expected: " + first;
+    std::string table = TableStart(comparisons_.size(), caption, head);
     for (const Comparison& c : comparisons_) {
         Row row{c.What, c.Expected, c.Observed, c.Expected == c.Observed ? "equal" : "NOT EQUAL"};
         if (sources)
