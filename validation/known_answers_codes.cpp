@@ -6,6 +6,7 @@
 #include "validation/statistics_program.h"
 
 #include <algorithm>
+#include <array>
 #include <set>
 
 namespace orvane::validation {
@@ -13,16 +14,16 @@ namespace {
 
 void CompareSequentialCodes(Evidence& evidence) {
     const struct {
-        CodeAlphabets Alphabet;
         const char* Kind;
+        CodeAlphabets Alphabet;
         std::int16_t Length;
         std::vector<std::pair<std::size_t, std::string>> Codes; ///< by position
     } rows[] = {
-        {Numeric, "Numeric", 3, {{1, "001"}, {7, "007"}, {12, "012"}, {123, "123"}, {999, "999"}}},
-        {Numeric, "Numeric", 10, {{999, "0000000999"}}},
-        {Alpha, "Alphabetic", 3, {{1, "AAB"}, {25, "AAZ"}, {26, "ABA"}, {27, "ABB"}, {702, "BBA"}}},
-        {Mixed, "Mixed", 3, {{1, "001"}, {9, "009"}, {10, "00A"}, {35, "00Z"}, {36, "010"}, {999, "0RR"}}},
-        {Mixed, "Mixed", 4, {{36, "0010"}}},
+        {"Numeric", Numeric, 3, {{1, "001"}, {7, "007"}, {12, "012"}, {123, "123"}, {999, "999"}}},
+        {"Numeric", Numeric, 10, {{999, "0000000999"}}},
+        {"Alphabetic", Alpha, 3, {{1, "AAB"}, {25, "AAZ"}, {26, "ABA"}, {27, "ABB"}, {702, "BBA"}}},
+        {"Mixed", Mixed, 3, {{1, "001"}, {9, "009"}, {10, "00A"}, {35, "00Z"}, {36, "010"}, {999, "0RR"}}},
+        {"Mixed", Mixed, 4, {{36, "0010"}}},
     };
     for (const auto& row : rows) {
         ListSettings settings = ValidSettings(2, 999);
@@ -81,15 +82,15 @@ void CompareShortLengths(Evidence& evidence) {
         std::int16_t Fits; ///< the longest list
     } rows[] = {{Numeric, Sequential, 3, 999}, {Numeric, Random, 3, 1000}, {Alpha, Sequential, 2, 675},
                 {Alpha, Random, 2, 676},       {Mixed, Sequential, 1, 35}, {Mixed, Random, 2, 1296}};
-    const char* const kinds[] = {"alphabetic", "numeric", "mixed"};
+    const std::array<const char*, 3> kinds{"alphabetic", "numeric", "mixed"};
     for (const auto& row : rows) {
         ListSettings settings = ValidSettings(2, row.Fits);
         settings.CodeAlphaNum = row.Alphabet;
         settings.CodeSeqRandom = row.Order;
         settings.CodeLength = row.Length;
-        const std::string kind = std::string(row.Order == Random ? "random " : "sequential ") +
-                                 kinds[row.Alphabet] + " codes of length " +
-                                 std::to_string(row.Length); // NOLINT
+        std::string kind = row.Order == Random ? "random " : "sequential ";
+        kind.append(kinds.at(static_cast<std::size_t>(row.Alphabet))).append(" codes of length ");
+        kind += std::to_string(row.Length);
         evidence.Compare("A list of " + std::to_string(row.Fits) + " with " + kind, "",
                          PressOk(settings).Messages,
                          "base to the power of the length, less 1 for sequential codes");

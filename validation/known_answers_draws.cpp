@@ -97,8 +97,8 @@ struct TwoPrograms {
     KnownEntropy Entropy;
     KnownEntropy SameEntropy;
     StoppedClock Clock;
-    DeliveredProgram Delivered{Entropy, Clock};
     ModelProgram Model{SameEntropy, Clock, Fault::None};
+    DeliveredProgram Delivered{Entropy, Clock};
 };
 
 void CompareWithModel(Evidence& evidence, const std::string& what, int times,

@@ -197,7 +197,7 @@ void ComparePlaces(Evidence& evidence) {
         evidence.Compare("Block of " + std::to_string(row.Size) + " in " + std::to_string(row.Columns) +
                              " columns",
                          row.Places, Places(row.Size, row.Columns), ByHand);
-    evidence.Paragraph("Rows are separated by \"|\", and \"-\" is a blank cell.");
+    evidence.Paragraph("Rows are separated by bars, and a dash is a blank cell.");
 }
 
 /// A list of two subjects of which one has a group name that Windows-1252 does not hold.

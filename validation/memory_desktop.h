@@ -174,7 +174,7 @@ class MemoryClipboard : public Clipboard {
     std::int32_t OpenClipboard() override { return 1; }
     void EmptyClipboard() override { Content.clear(); }
     GlobalHandle SetClipboardData(std::uint32_t /*format*/, GlobalHandle block) override {
-        Content = block_.data();
+        Content = block_.substr(0, block_.find('\0'));
         return block;
     }
     std::int32_t CloseClipboard() override { return 1; }
