@@ -122,8 +122,7 @@ void CompareHopelessBlocks(Evidence& evidence) {
          {"A", "A"},
          0.05F,
          "a block of 20 subjects cannot pass the Runs test since all its groups have the same name, please "
-         "give the "
-         "groups different names"},
+         "give the groups different names"},
         {"A block of 4, one against three, at level 0.25",
          4,
          {"A", "B", "B", "B"},
