@@ -18,16 +18,19 @@ inline constexpr std::int32_t LargestBlock = 14654;
 inline constexpr std::int16_t LongestCode = 10;
 inline constexpr std::int16_t MostColumns = 10;
 
-// The values of these four stand in settings files.
+/// Values stand in settings files: never change them.
 enum ListDestinations : std::int32_t { ToFile = 0, ToWindow = 1, ToClipboard = 2 };
+/// Values stand in settings files: never change them.
 enum BlockOptions : std::int32_t { OnlyOneBlock = 0, EqualSize = 1, RandomSizesOf = 2, RandomBlockSize = 3 };
+/// Values stand in settings files: never change them.
 enum CodeAlphabets : std::int32_t { Alpha = 0, Numeric = 1, Mixed = 2 };
+/// Values stand in settings files: never change them.
 enum CodeOrders : std::int32_t { Sequential = 0, Random = 1 };
 
 enum SelectedCommands : std::int16_t { NotClosedByButton = 0, ClosedByOK = 1, ClosedByCancel = 2 };
 
-/// The inputs. One instance lives as long as the program. The group names are no field of it: they live in
-/// the cells of the group name grid, row g, column 1, and nowhere else.
+/// The inputs. One instance lives as long as the program. The group names are not a field: they are stored
+/// only in the group name grid, the name of group g in row g, column 1.
 struct ListSettings {
     std::int16_t NumberOfGroups = 2; ///< 2 to 16
     std::int16_t SampleSize = 0;     ///< subjects asked for; 0 not given; above 0 to generate

@@ -16,11 +16,10 @@
 //
 // Reseed. The new key is one block of the cipher under the old key. The input of that block holds the
 // reseed's value in place of the counter, and a mark that the input of values never holds.
-// - Earlier values: the old key is overwritten and cannot be computed from the new one. Who reads the
-// program's
-//   memory now cannot find the values drawn before. Values that were prepared but not used are overwritten
-//   too. This is true of this object. Copies on the stack, in a debugger, a crash report or the swap file are
-//   not under its control.
+// - Earlier values: the old key is overwritten and cannot be computed from the new one. Who reads the memory
+//   of the program now cannot find the values drawn before. Values that were prepared but not used are
+//   overwritten too. This is true of this object. Copies on the stack, in a debugger, a crash report or the
+//   swap file are not under its control.
 // - Later values: the new key is as hard to guess as the old one, whatever value is given, even one that an
 //   attacker has chosen. (Strictly, two old keys can give the same new key. After a thousand million reseeds
 //   more than 220 of the 256 bits are still left.)

@@ -32,7 +32,8 @@ std::vector<std::string> Split(std::string_view text, char separator) {
     }
 }
 
-/// The value of an item or of one end of a range, which holds digits alone; 0 for an empty one.
+/// The number in `digits`, 0 for an empty text.
+/// Requires: digits only.
 std::int16_t ValueOf(const std::string& digits) {
     return ToInt16(NumericValue(digits));
 }
@@ -48,7 +49,7 @@ void AppendCandidate(std::vector<std::int16_t>& pool, std::int16_t size) {
 bool BlockSizeList::NotValid(const std::string& InpStr) {
     if (InpStr.empty())
         return true;
-    // Characters are counted in 16 bits, and the count takes one step past the last of them.
+    // The length is a 16-bit number, and a loop over the characters ends one past the last.
     if (CharacterCount(InpStr) >= Most16)
         throw TooMany("a list of block sizes of " + std::to_string(Most16) + " or more characters");
     const std::string S = RemoveSpaces(InpStr);

@@ -1,5 +1,5 @@
-// The list of block sizes that the user types, such as 6,8,10,12-16: a pool from which blocks are drawn at
-// random until they cover the sample size.
+// The list of block sizes that the user types, such as 6,8,10,12-16. Block sizes are drawn from it at random
+// until the blocks cover the sample size.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -18,29 +18,32 @@ class BlockSizeList {
                   Platform& desktop)
         : settings_(settings), results_(results), controls_(controls), desktop_(desktop) {}
 
-    /// True when the list cannot be used; otherwise BlockSizes is filled. The messages of BuildArr come from
-    /// inside, that of every refusal is the caller's. Throws an Overflow failure for a number, a pool or a
-    /// text that passes 16 bits and for drawn blocks that pass 32767 before they reach the sample size, and
-    /// an OutOfRange failure for an empty pool. What the random source throws comes out too.
+    /// Returns true if the list cannot be used, otherwise false with BlockSizes filled. BuildArr shows its
+    /// own message for a fault that it finds; the caller shows its message after every true. Throws an
+    /// Overflow failure if a number, the count of listed sizes or the length of the text does not fit 16
+    /// bits, or if the drawn blocks pass 32767 before they reach the sample size; an OutOfRange failure if
+    /// the list contains no size; and what the random source throws.
     bool NotValid(const std::string& InpStr);
 
-    /// `S` without its blanks; only U+0020 is one.
+    /// `S` without its spaces (U+0020); other white space stays.
     static std::string RemoveSpaces(const std::string& S);
 
-    /// Whether every character is a digit, "-" or ",".
+    /// Whether every character of `S` is a digit, "-" or ",".
     static bool ValidChars(const std::string& S);
 
-    /// Expands `S`, free of blanks, into the pool and draws BlockSizes from it. False after a message with
-    /// the focus on the field; BlockSizes is then untouched.
+    /// Expands `S` into the listed sizes and draws BlockSizes from them. On a fault: shows a message, puts
+    /// the focus on the field, leaves BlockSizes unchanged and returns false.
+    /// Requires: `S` contains no spaces.
     bool BuildArr(const std::string& S);
 
-    /// The two ends of a range; both 0 when `S` is no pair.
+    /// Sets `min` and `max` to the two ends of a range such as 12-16; both to 0 when `S` does not consist of
+    /// exactly two parts.
     static void GetMinMax(const std::string& S, std::int16_t& min, std::int16_t& max);
 
   private:
-    /// False at the first item without a value. Slot 0 of the pool is no candidate.
+    /// Appends the sizes to `pool`, whose slot 0 is not used. Returns false at the first item with the value
+    /// 0.
     static bool ExpandItems(const std::string& S, std::vector<std::int16_t>& pool);
-    /// Shows the message and puts the focus on the field.
     void TellFault(const std::string& message);
     void DrawBlocks(const std::vector<std::int16_t>& pool);
 

@@ -40,7 +40,7 @@ std::optional<std::string> BlockRefusal(const std::vector<std::int16_t>& IntArr,
     return size > 1 && alike ? NamesAlike(size) : CannotPass(size, level);
 }
 
-/// Speaks of the first block of the list that cannot pass the Runs test.
+/// The message for the first block of the list that cannot pass the Runs test.
 std::optional<std::string> RunsTestRefusal(const ListSettings& settings,
                                            const std::vector<std::int16_t>& blockSizes,
                                            const MSFlexGrid& groupNames) {

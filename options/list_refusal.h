@@ -1,5 +1,5 @@
-// Lists that cannot be made. They are refused while the options can still be changed, before any file is
-// touched.
+// Finds lists that cannot be made, while the user can still change the options and before any file is
+// opened.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -13,7 +13,8 @@
 namespace orvane {
 
 /// Why a list of these blocks cannot be made with these settings, as a message for the user; nothing when it
-/// can be made. Slot 0 of `blockSizes` is no block; every other slot is above 0.
+/// can be made.
+/// Requires: every slot of `blockSizes` from 1 on is above 0; slot 0 is not used.
 std::optional<std::string> ListRefusal(const ListSettings& settings,
                                        const std::vector<std::int16_t>& blockSizes,
                                        const MSFlexGrid& groupNames);

@@ -1,5 +1,5 @@
-// The option values while their window is open: the snapshot that Cancel goes back to, and the ranges that
-// the window's controls can show.
+// The option values while the options window is open: the copy that Cancel restores, and the ranges of the
+// window's controls.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -27,16 +27,18 @@ class OptionSnapshot {
     float sigLevel_ = 0;
 };
 
-/// The fewest characters that a code may have: the common logarithm of the sample size, rounded to nearest,
-/// ties to even, plus 1. `sampleSize` is above 0; the result is 1 to 6.
+/// The smallest code length allowed for a sample size: its common logarithm, rounded to nearest, ties to
+/// even, plus 1; from 1 to 6.
+/// Requires: `sampleSize` is above 0.
 std::int16_t LowestCodeLength(std::int16_t sampleSize);
 
-/// Gives each option that comes out of range from a settings file the nearest value that its control can
-/// show, and raises CodeLength to LowestCodeLength. SampleSize is above 0.
+/// Sets each option that is out of range, as a settings file can make it, to the nearest value that its
+/// control can show, and raises CodeLength to LowestCodeLength.
+/// Requires: SampleSize is above 0.
 void BringOptionsIntoRange(ListSettings& settings);
 
-/// What typing `text` into the field of the significance level stores: its numeric value as the nearest
-/// 32-bit float there is, the largest one for a number beyond it.
+/// The value that SigLevel gets when `text` is typed into the field of the significance level: its numeric
+/// value as the nearest 32-bit float; the largest or smallest finite float for a number beyond them.
 float LevelOf(const std::string& text);
 
 } // namespace orvane

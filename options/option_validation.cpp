@@ -17,7 +17,7 @@ constexpr std::int32_t LargestBlockSize = std::numeric_limits<std::int16_t>::max
 constexpr double HighestLevel = 0.3;
 constexpr std::int16_t StatisticsTab = 4;
 
-/// Whether `judge` finds fault. A failure of any kind counts as a fault.
+/// Whether `judge` returns true or throws. A failure of any kind counts as a fault of the field.
 template <std::predicate Judge>
 bool FindsFault(Judge&& judge) {
     try {
@@ -98,7 +98,7 @@ bool OptionValidation::ListRefused() {
 
 void OptionValidation::SetForEqualBlocks() {
     const std::int16_t size = ToInt16(NumericValue(settings_.prEqBlockSize));
-    // One block more than the division gives, also when it leaves no remainder.
+    // Always one block more than the quotient, even if the division leaves no remainder.
     for (std::int32_t more = settings_.SampleSize / size; more >= 0; --more)
         results_.BlockSizes.push_back(size);
 }
@@ -106,7 +106,7 @@ void OptionValidation::SetForEqualBlocks() {
 void OptionValidation::SetForRandomBlockSize() {
     desktop_.Random.UniformReseed(desktop_.Clock.SecondsSinceMidnight());
     const std::int32_t deals = 1 + settings_.SampleSize / settings_.NumberOfGroups;
-    // A multiplier of 0, as small samples give, would be a block without positions.
+    // At least 1: small samples would give the multiplier 0, which means a block without positions.
     const std::int16_t Lo = ToInt16(std::max(1, deals / 5));
     const std::int16_t Hi = ToInt16(std::max(1, deals / 3));
     std::int32_t sum = 0;
@@ -124,7 +124,7 @@ void OptionValidation::cmdOK_Click() {
     settings_.SelectedCmd = ClosedByOK;
     settings_.TableBorder = controls_.TableBorderChecked();
     settings_.CellSpacing = controls_.CellSpacingPosition();
-    desktop_.Pointer.ShowBusy(); // the opener of the window shows the normal one at its end
+    desktop_.Pointer.ShowBusy(); // the caller of ShowModal sets the normal one
     controls_.Close();
 }
 

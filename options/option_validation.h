@@ -1,4 +1,4 @@
-// What OK, Cancel and Apply of the options window do. A valid OK fixes the block structure of the list.
+// What OK, Cancel and Apply of the options window do. A successful OK sets the block sizes of the list.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -19,27 +19,28 @@ class OptionValidation {
         : settings_(settings), results_(results), groupNames_(groupNames), controls_(controls),
           desktop_(desktop), list_(settings, results, controls, desktop) {}
 
-    /// Keeps the values that Cancel goes back to. To be called at every opening, once the level has gone
-    /// through its field and before BringOptionsIntoRange.
+    /// Stores the values that Cancel restores.
+    /// Requires: called at every opening of the window, after the level was written into its field and
+    /// before BringOptionsIntoRange.
     void TakeSnapshot() { snapshot_ = OptionSnapshot(settings_); }
 
-    /// True when the options were refused, after the messages of one fault; False when they are valid and
-    /// BlockSizes holds a list that can be made. A failure of any kind in the judgement of a field counts as
-    /// a fault of that field; a failure in drawing blocks of random size comes out. After a refusal or a
-    /// failure BlockSizes may hold anything; the next call starts anew.
+    /// Returns true if the options were refused; the first fault found was then reported. Returns false if
+    /// they are valid; BlockSizes then holds a list that can be made. A failure of any kind while a field is
+    /// checked counts as a fault of that field. A failure while blocks of random size are drawn is thrown.
+    /// After a refusal or a failure the content of BlockSizes is undefined; the next call starts again.
     /// Requires: SampleSize is above 0.
     bool NotValidInputs();
 
-    /// Leaves the window open after a refusal. Otherwise shows the busy pointer, for the opener to take back,
-    /// and closes the window.
+    /// After a refusal the window stays open. Otherwise shows the busy pointer, which the caller of
+    /// ShowModal sets back to normal, and closes the window.
     void cmdOK_Click();
     void cmdCancel_Click();
-    /// Neither checks nor stores anything.
+    /// Does nothing.
     void cmdApply_Click();
 
   private:
     using Focus = void (OptionsControls::*)();
-    /// Shows the message, puts the focus on the field and returns true.
+    /// Shows the message and puts the focus on the field. Always returns true.
     bool Refuse(const std::string& message, Focus focus);
     bool BlocksRefused();
     bool EqualSizeRefused();

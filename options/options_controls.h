@@ -1,4 +1,4 @@
-// What the validation and the buttons need of the options window's controls.
+// The controls of the options window, as the validation and the buttons use them.
 #pragma once
 
 #include <cstdint>
@@ -10,11 +10,12 @@ class OptionsControls {
   public:
     virtual ~OptionsControls() = default;
 
-    /// The focus operations do nothing while the field cannot take the focus, as when its tab is not showing.
+    /// The focus operations do nothing while the field cannot take the focus, for example when its tab is
+    /// not shown.
     virtual void FocusEqBlockSizeTxt() = 0;
     virtual void FocusUnEqBlockSizeTxt() = 0;
     virtual void FocusTxtLevel() = 0;
-    /// The text of txtLevel as it stands.
+    /// The current text of txtLevel.
     [[nodiscard]] virtual std::string LevelText() const = 0;
     /// Selects a tab of tbsOptions, counted from 1.
     virtual void SelectTab(std::int16_t tab) = 0;
