@@ -9,7 +9,7 @@ namespace orvane {
 
 namespace {
 
-/// Walks the cells of one block; `OffSet` is raised by the filled ones.
+/// Calls the productions for the cells of one block and adds the number of filled cells to `OffSet`.
 void WalkBlock(const std::vector<std::string>& ArrStr, const std::vector<std::string>& BlockCodeArr,
                std::int16_t columns, std::int16_t& OffSet, CellProductions& productions) {
     std::int16_t column = 0;
@@ -19,7 +19,7 @@ void WalkBlock(const std::vector<std::string>& ArrStr, const std::vector<std::st
             productions.RowBreak();
             column = 1;
         }
-        // A group name may be empty, a code never is.
+        // Codes are never empty, group names can be: an empty code marks a blank cell.
         if (BlockCodeArr[cell].empty()) {
             productions.BlankCell(column);
         } else {

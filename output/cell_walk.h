@@ -1,5 +1,5 @@
-// The walk over blocks and cells that every report of a list runs. It makes the list as it goes: each block
-// is drawn when the walk reaches it.
+// The loop over the blocks and cells of a list, shared by all reports. The list is made in this loop: each
+// block is drawn when the loop reaches it.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -12,34 +12,35 @@
 
 namespace orvane {
 
-/// Characters from the start of one column of a text to the start of the next.
+/// Characters from the start of one text column to the start of the next.
 inline constexpr std::size_t ColumnDistance = 20;
 
-/// What one report writes at each step of the walk. Columns count from 1.
+/// What a report writes at each step of WalkCells. Columns count from 1.
 class CellProductions {
   public:
     virtual ~CellProductions() = default;
-    /// Between two rows of a block, never behind the last one.
+    /// Between two rows of a block; not after the last row.
     virtual void RowBreak() = 0;
     virtual void FilledCell(std::int16_t column, const std::string& code, const std::string& groupName) = 0;
     virtual void BlankCell(std::int16_t column) = 0;
-    /// Behind the last cell of a block.
+    /// After the last cell of a block.
     virtual void BlockEnd(bool lastBlock) = 0;
 };
 
-/// The number of cells of every row of the list.
+/// The number of cells in every row of the list.
 std::int16_t GetMaxCol(const ListSettings& settings);
 
-/// Walks every block of results.BlockSizes in list order. Throws what SequenceBuilder::BuildSequenceArr and
-/// the productions throw, and an Overflow failure when the list passes 32767 subjects.
+/// Makes every block of results.BlockSizes in list order and calls the productions for its cells. Throws
+/// what SequenceBuilder::BuildSequenceArr and the productions throw, and an Overflow failure when the list
+/// exceeds 32767 subjects.
 void WalkCells(const ListSettings& settings, const ListResults& results, SequenceBuilder& builder,
                CellProductions& productions);
 
-/// The text of a filled cell: the code, ": " and the group name, nothing trimmed.
+/// The text of a filled cell: the code, ": " and the group name, with all their spaces.
 std::string CellText(const std::string& code, const std::string& groupName);
 
-/// Throws a Failure, before anything has been written, when a group name holds a character that the code page
-/// does not.
+/// Throws an UnmappableCharacter failure when a group name contains a character that is not in the code
+/// page. Reports that cannot replace such a character call this before they open the file or the clipboard.
 void RequireMappableNames(const ListSettings& settings, const MSFlexGrid& groupNames, const CodePage& page);
 
 } // namespace orvane

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t WidestRow = 150;
 
-/// Collects the list, every cell filled up with blanks to the width of its column.
+/// Collects the list, every cell padded with spaces to the width of its column.
 class FilledUpCells : public CellProductions {
   public:
     FilledUpCells(std::size_t columnWidth, std::size_t ruleWidth)

@@ -5,9 +5,9 @@
 
 namespace orvane {
 
-/// Builds the list as one text and puts it on the clipboard, each cell filled up to the width of its column.
-/// Reports a failure itself and returns normally; the clipboard is then as it was, or empty if it did not
-/// take the finished text.
+/// Builds the list as one text, each cell padded with spaces to the width of its column, and puts it on the
+/// clipboard. Reports a failure itself and returns normally. After a failure the clipboard is unchanged, or
+/// empty if it refused the finished text.
 void OutputToClipBoard(const ReportContext& context);
 
 } // namespace orvane

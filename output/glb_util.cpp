@@ -10,13 +10,13 @@ namespace orvane {
 
 namespace {
 
-/// From FindExecutableA and ShellExecuteA, anything above this is a success.
+/// Results of FindExecutableA and ShellExecuteA above this mean success.
 constexpr std::int32_t HighestShellError = 32;
 
 constexpr std::uint32_t MoveableZeroedBlock = 66;
 constexpr std::uint32_t PlainText = 1;
 
-/// A memory block, freed unless the clipboard took it.
+/// A memory block, freed unless the clipboard has taken it over.
 class ClipboardBlock {
   public:
     ClipboardBlock(Clipboard& clipboard, std::size_t bytes)
@@ -76,7 +76,7 @@ void ReportError(const Failure& failure, MessageBox& messages) {
 }
 
 Failure CurrentFailure() {
-    // The texts for a lack of memory are short enough to need none.
+    // The texts for std::bad_alloc are short enough for std::string to store them without allocating memory.
     try {
         throw;
     } catch (const Failure& failure) {

@@ -1,5 +1,5 @@
-// Services that every part of the program leans on: the one report of a failure, the opening of a file in its
-// associated program, text to the clipboard.
+// Routines that all parts of the program use: the report of a failure, opening a file in its associated
+// program, copying text to the clipboard.
 #pragma once
 
 #include "platform/clipboard.h"
@@ -14,15 +14,16 @@
 
 namespace orvane {
 
-/// Shows the failure in three labelled lines and returns when the user has pressed OK.
+/// Shows the failure in three labelled lines. Returns when the user has pressed OK.
 void ReportError(const Failure& failure, MessageBox& messages);
 
-/// The failure that is being handled. To be called in a catch block: an exception of another kind, such as no
-/// memory, becomes a failure of its own.
+/// The exception that is being handled, as a Failure; other exceptions, such as std::bad_alloc, are
+/// converted.
+/// Requires: called inside a catch block.
 Failure CurrentFailure();
 
-/// Runs `body` under a failure path: `cleanUp` first, then one report, then a normal return. With
-/// `quietCancel` a cancelled prompt ends without a report.
+/// Runs `body`. If it throws: runs `cleanUp`, reports the failure once and returns normally. With
+/// `quietCancel` a cancelled prompt is not reported.
 template <std::invocable Body, std::invocable CleanUp>
 void WithFailurePath(MessageBox& messages, bool quietCancel, Body&& body, CleanUp&& cleanUp) {
     try {
@@ -40,18 +41,19 @@ void WithFailurePath(MessageBox& messages, bool quietCancel, Body&& body) {
     WithFailurePath(messages, quietCancel, body, [] {});
 }
 
-/// Opens the file in the program associated with its type and returns at once. Says in a message when there
-/// is none or it does not start.
+/// Opens the file in the program associated with its type and returns at once. Shows a message if there is
+/// no such program or if it does not start.
 void OpenInBrowser(const std::string& path, std::intptr_t owner, Shell32& shell, MessageBox& messages);
 
-/// Puts `text` on the clipboard as plain text, in one block of the code page's bytes. True when the copy was
-/// aborted, after a message. Throws, with the clipboard untouched, when the text has a character that the
-/// page or the clipboard cannot hold, or when no block can be had; and, with the clipboard empty and closed,
-/// when it does not take the block. A block that the clipboard did not take is freed.
+/// Puts `text` on the clipboard as plain text, one memory block with the bytes of the code page. Returns
+/// true if the copy was aborted; a message was then shown. Throws, with the clipboard unchanged, if `text`
+/// contains a character that the code page or the clipboard cannot hold, or if no memory block can be
+/// allocated. Throws, with the clipboard empty and closed, if the clipboard refuses the block; the block is
+/// then freed.
 bool CopyTextToClipboard(const std::string& text, Clipboard& clipboard, const CodePage& page,
                          MessageBox& messages);
 
-/// The last three characters of a file name in upper case: what tells web pages, lists and other files apart.
+/// The last three characters of a file name in upper case, such as "HTM" or "TXT".
 std::string UpperLastThree(const std::string& name);
 
 } // namespace orvane

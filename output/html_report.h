@@ -7,8 +7,8 @@
 
 namespace orvane {
 
-/// Writes the list into the file `S`, replacing it, and opens it in its associated program. Throws whatever
-/// fails; the lines written by then stay, and no program is started.
+/// Writes the list into the file `S`, replacing it, and opens it in its associated program. Throws every
+/// failure; the file then contains the lines written so far, and no program is started.
 void GenerateHtm(const ReportContext& context, const std::string& S);
 
 } // namespace orvane

@@ -10,7 +10,7 @@ namespace orvane {
 namespace {
 
 constexpr const char* ListFilter = "htm file (*.htm)|*.htm|Text file (*.txt)|*.txt";
-/// The help page: never written by the program.
+/// The help page, which lists must not overwrite.
 constexpr const char* ReservedFile = "randomization.htm";
 
 } // namespace

@@ -1,4 +1,4 @@
-// The choice of the output channel, the prompt of the "To File" channel, and the viewing of a saved list.
+// Choosing the output channel, the file prompt of the "To File" channel, and viewing a saved list.
 #pragma once
 
 #include "engine/generation.h"
@@ -20,8 +20,8 @@ class OutputMenu {
     virtual void SetChecked(std::int16_t Index, bool checked) = 0;
 };
 
-/// Moves the check mark to the item `Index` and makes it the channel of the next generation. An Index without
-/// an item is an OutOfRange failure that leaves no item checked and the channel as it was.
+/// Moves the check mark to the item `Index` and makes it the channel of the next generation. Throws an
+/// OutOfRange failure if there is no such item; then no item is checked and the channel is unchanged.
 void mnuOutput_Click(std::int16_t Index, OutputMenu& menu, ListSettings& settings);
 
 class ListChannels : public OutputChannels {
@@ -33,15 +33,15 @@ class ListChannels : public OutputChannels {
     void OutputToWindow() override;
     void OutputToClipBoard() override;
 
-    /// Asks for a saved list and shows it: a web page in its associated program, any other file in the output
-    /// window.
+    /// Asks for a saved list and shows it: a web page in its associated program, any other file in the
+    /// output window. Reports a failure itself.
     void DisplayRandomFile();
-    /// The path chosen in an open prompt, empty after a cancel or a reported failure.
+    /// The path chosen in an open prompt; empty after a cancel and after a failure, which was then reported.
     std::string GetRandomFileName();
 
   private:
     void PrepareSavePrompt();
-    /// Prompts until the name is not the reserved one.
+    /// Shows the prompt again as long as the chosen file is the reserved one.
     std::string AskForListFile();
 
     const ReportContext& context_;

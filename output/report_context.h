@@ -1,4 +1,4 @@
-// What a report of a list works on.
+// The objects that a report of a list needs.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -16,7 +16,7 @@ struct ReportContext {
     const MSFlexGrid& GroupNames;
     SequenceBuilder& Builder;
     Platform& Desktop;
-    std::intptr_t MainWindow = 0; ///< handle of the window that owns what a report opens, 0 for none
+    std::intptr_t MainWindow = 0; ///< handle of the owner window for programs that a report starts; 0: none
 };
 
 } // namespace orvane

@@ -63,7 +63,8 @@ void ShownFile::DeleteIfTemporary() {
     try {
         desktop_.FileSystem.Delete(OutputFileName_);
     } catch (...) {
-        // Somebody else deleted it, or it stays: nothing that the user could do at the close of a window.
+        // The file is gone already or cannot be deleted; the user could do nothing about it when a window
+        // closes.
     }
 }
 

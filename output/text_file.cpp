@@ -24,7 +24,7 @@ TextFileWriter::~TextFileWriter() {
         if (file_)
             Flush();
     } catch (...) {
-        // The failure that kept Close from being called is the one that is reported.
+        // The exception that prevented the call of Close is reported by the caller.
     }
 }
 
@@ -46,7 +46,8 @@ void TextFileWriter::Close() {
 }
 
 void TextFileWriter::Flush() {
-    // Bytes that failed are not held for a second try: a part of them may be in the file.
+    // Emptied before the writing: after a failure a part of these bytes may be in the file, so they must not
+    // be written again.
     const std::string bytes = std::exchange(buffer_, {});
     if (!bytes.empty())
         file_->Write(bytes);
@@ -61,7 +62,7 @@ bool TextFileReader::AtEnd() {
     return next_ == buffer_.size() && !Fill();
 }
 
-// Only when more is asked for: a line that has been read is not lost when what follows it cannot be.
+// Not done at the end of ReadLine: reading the LF could fail, and the line that is complete would be lost.
 void TextFileReader::SkipLineFeed() {
     if (!behindReturn_ || (next_ == buffer_.size() && !Fill()))
         return;

@@ -1,4 +1,4 @@
-// Lines of text in files: UTF-8 inside, the 8-bit code page on the disk, CR LF at every line end.
+// Text files: UTF-8 in the program, bytes of the 8-bit code page in the file, CR LF at every line end.
 #pragma once
 
 #include "platform/code_page.h"
@@ -11,9 +11,10 @@
 
 namespace orvane {
 
-/// Writes through a buffer. Close must be called when all is written: it tells of a full disk. An object that
-/// is destroyed without it writes what the buffer holds, as far as that goes, and closes silently; bytes
-/// whose writing has failed are not written a second time.
+/// Writes through a buffer. Close must be called at the end: only Close reports that the last bytes could
+/// not be written, for example because the disk is full. The destructor of a writer that was not closed
+/// writes the buffered bytes as far as possible and closes the file without a report. Bytes whose writing
+/// failed are not written a second time.
 class TextFileWriter {
   public:
     TextFileWriter(std::unique_ptr<WritableFile> file, const CodePage& page, Unmappable unmappable);
@@ -35,33 +36,33 @@ class TextFileWriter {
     std::string buffer_; ///< bytes of the code page
 };
 
-/// What a line of a file is, and how much is read. Sizes are bytes of the file.
+/// How the file is divided into lines, and the largest sizes that are read. Sizes are bytes of the file.
 struct LineRules {
-    bool LineFeedEndsLine;   ///< a lone LF ends a line too; otherwise it is a character of its line
+    bool LineFeedEndsLine;   ///< LF alone ends a line; if false, it is a character of the line
     std::size_t LongestLine; ///< without the line end
     std::size_t LargestFile;
 };
 
-/// Reads lines that end in CR or CR LF; the last line needs no end.
+/// Reads lines that end in CR or CR LF, and in LF if the rules say so; the last line needs no line end.
 class TextFileReader {
   public:
-    /// `path` is for messages.
+    /// `path` is used in messages only.
     TextFileReader(std::unique_ptr<ReadableFile> file, const CodePage& page, std::string path,
                    LineRules rules);
 
-    /// True when no character is left. Throws a TooLarge failure when a file passes LargestFile.
+    /// Whether all characters have been read. Throws a TooLarge failure when the file exceeds LargestFile.
     bool AtEnd();
-    /// The next line without its end. Throws an EndOfFile failure when no character is left; its description
-    /// names CR LF if a line before held a lone LF. Throws a TooLarge failure for a line that passes
-    /// LongestLine and for a file that passes LargestFile.
+    /// The next line without its line end. Throws an EndOfFile failure when there is no further character; if
+    /// an earlier line contains a lone LF, its text says that lines have to end in CR LF. Throws a TooLarge
+    /// failure when the line exceeds LongestLine or the file exceeds LargestFile.
     std::string ReadLine();
 
   private:
     void SkipLineFeed();
-    /// Where the line that starts at next_ ends, searched from `from`; npos when its end is not in the
-    /// buffer.
+    /// The index of the line end, searched from `from` on; npos if it is not in the buffer.
     [[nodiscard]] std::size_t LineEndFrom(std::size_t from) const;
-    /// Adds a chunk of the file to what is left in the buffer, which moves to its start. False at the end.
+    /// Moves the unread bytes to the start of the buffer and appends a chunk of the file. Returns false at
+    /// the end of the file.
     bool Fill();
 
     std::unique_ptr<ReadableFile> file_;
@@ -70,9 +71,9 @@ class TextFileReader {
     LineRules rules_;
     std::string buffer_;
     std::size_t next_ = 0;
-    std::size_t read_ = 0;        ///< bytes of the file so far
-    bool behindReturn_ = false;   ///< an LF that comes next belongs to the line already read
-    bool lineFeedInLine_ = false; ///< a line that was read has a lone LF in it
+    std::size_t read_ = 0;        ///< bytes of the file read so far
+    bool behindReturn_ = false;   ///< the last line ended in CR: an LF that follows is part of its line end
+    bool lineFeedInLine_ = false; ///< an earlier line contains a lone LF
 };
 
 } // namespace orvane

@@ -11,15 +11,17 @@
 
 namespace orvane {
 
-/// Writes the list into the file `S`, replacing it, and opens it in its associated program. Reports a failure
-/// itself and returns normally; the lines written by then stay, and no program is started.
+/// Writes the list into the file `S`, replacing it, and opens it in its associated program. Reports a
+/// failure itself and returns normally; the file then contains the lines written so far, and no program is
+/// started.
 void GenerateText(const ReportContext& context, const std::string& S);
 
-/// The productions that the text report and the window report share: each cell at position
-/// 20 (column - 1) + 1 of its line, on a new line when the cell before it reaches past that.
+/// The cells of the text report and of the window report: the cell of column c starts at position 20 (c - 1)
+/// + 1 of its line, or of a new line if the cell before it ends after that position.
 class PositionedCells : public CellProductions {
   public:
-    /// A blank cell is `blankWidth` spaces, the ruled line under a block `ruleWidth` times "=".
+    /// A blank cell consists of `blankWidth` spaces, the ruled line under a block of `ruleWidth` characters
+    /// "=".
     PositionedCells(TextFileWriter& file, std::int32_t blankWidth, std::int32_t ruleWidth)
         : file_(file), blankWidth_(blankWidth), ruleWidth_(ruleWidth) {}
 
@@ -36,7 +38,7 @@ class PositionedCells : public CellProductions {
     TextFileWriter& file_;
     std::int32_t blankWidth_;
     std::int32_t ruleWidth_;
-    std::size_t position_ = 1; ///< of the next character in its line, counted from 1
+    std::size_t position_ = 1; ///< of the next character in the line, counted from 1
 };
 
 } // namespace orvane

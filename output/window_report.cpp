@@ -14,7 +14,7 @@ namespace {
 constexpr std::int32_t BlankWidth = 3;
 constexpr std::int32_t RuleWidthOfColumn = 13;
 constexpr int NameLength = 8;
-/// There are 36 to the power of 8 names: a thousand taken ones in a row mean that the answer cannot be true.
+/// There are 36^8 names: if 1000 in a row exist already, the answers of the file system are wrong.
 constexpr int MostTries = 1000;
 
 std::string DrawName(UniformSource& random) {
