@@ -32,7 +32,7 @@ void WriteNumber(TextFileWriter& file, const char* label, std::int32_t number) {
     file.WriteLine(std::to_string(number));
 }
 
-/// The value behind a label.
+/// Skips the label and returns the value.
 std::string ReadValue(TextFileReader& file) {
     file.ReadLine();
     return file.ReadLine();
@@ -107,7 +107,7 @@ void SettingsFile::TellReplaced() const {
 }
 
 void SettingsFile::WriteValues(TextFileWriter& file) {
-    // A carriage return would end the line early, and all values behind it would slide.
+    // A carriage return would end the line early, and all later values would be on the wrong lines.
     const auto writeText = [&file](std::string text) {
         std::replace(text.begin(), text.end(), CarriageReturn, '?');
         file.WriteLine(text);

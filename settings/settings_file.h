@@ -1,5 +1,5 @@
-// The settings file: the set-up of one trial, one item a line. Each value stands behind a label that is there
-// for people; what gives a line its meaning is its position alone.
+// The settings file: the inputs of a list, one item a line. Each value follows a line with a label for human
+// readers. Only its line number tells what a value means; labels are not read.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -16,14 +16,15 @@
 
 namespace orvane {
 
-/// The controls of the main form that a load moves. What their handlers throw comes out of these operations.
+/// The controls of the main form that a load sets. The operations throw what the change handlers of the
+/// controls throw.
 class MainControls {
   public:
     virtual ~MainControls() = default;
-    /// Moves nogHsb, which makes the number of groups follow. A position outside 2 to 16 is an OutOfRange
-    /// failure that changes nothing.
+    /// Sets the position of nogHsb, whose handler sets the number of groups. A position outside 2 to 16 is
+    /// an OutOfRange failure that changes nothing.
     virtual void SetNogHsb(std::int16_t position) = 0;
-    /// Sets the text of SampSizeTxt, which makes the sample size follow.
+    /// Sets the text of SampSizeTxt, whose handler sets the sample size.
     virtual void SetSampSizeTxt(const std::string& text) = 0;
 };
 
@@ -33,27 +34,30 @@ class SettingsFile {
                  Platform& desktop)
         : settings_(settings), groupNames_(groupNames), controls_(controls), menu_(menu), desktop_(desktop) {}
 
-    /// Writes the live state into the file, replacing it, and says so if `Announce`. The name of the last
-    /// group is then the current cell. A character that the code page or a line cannot hold is a failure
-    /// before the file is opened (Unmappable::Fail), or is written as "?" and named in a report at the end
-    /// (Unmappable::QuestionMark). Reports a failure itself; the file then holds what got written.
+    /// Writes the current inputs into the file, replacing it; with `Announce`, shows a message afterwards.
+    /// The name cell of the last group becomes the current cell of the grid. For a character that the code
+    /// page or a line cannot hold, Unmappable::Fail is a failure before the file is opened; with
+    /// Unmappable::QuestionMark "?" is written and one report at the end names these characters. Reports a
+    /// failure itself; the file then contains what was written so far.
     void SaveSettings(const std::string& FileNameStr, bool Announce, Unmappable unmappable);
 
-    /// Reads the file into the live state, each value taking effect as soon as its line is read, and says so
-    /// if `Announce`. An empty name does nothing. Reports a failure itself; what was read by then stays.
+    /// Reads the file into the current inputs, each value as soon as its line is read; with `Announce`,
+    /// shows a message afterwards. An empty name does nothing. Reports a failure itself; the values read so
+    /// far remain.
     void SetSettings(const std::string& FileNameStr, bool Announce);
 
-    /// Throws a TooLarge failure when a file of the live state would be larger than SetSettings reads.
+    /// Throws a TooLarge failure if a file of the current inputs would be larger than SetSettings can read.
     void RequireReadableSize() const;
 
-    /// Bytes of a file that is read, several times what the boxes of the program can work with in comfort.
+    /// The largest file that is read, in bytes. The boxes of the program are slow to edit long before their
+    /// texts fill such a file.
     static constexpr std::size_t LargestFile = std::size_t{1} << 21U;
 
   private:
-    /// What the user typed: the names of the groups and the two texts of block sizes.
+    /// The texts that the user types: the names of the groups and the two fields of block sizes.
     [[nodiscard]] std::vector<std::string> TypedTexts() const;
     void RequireWritableTexts() const;
-    /// Throws a failure that names the characters which were written as "?", if there are any.
+    /// Throws a failure that names the characters that were written as "?"; does nothing if there are none.
     void TellReplaced() const;
     void WriteValues(TextFileWriter& file);
     void ReadValues(const std::string& FileNameStr);

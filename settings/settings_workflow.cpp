@@ -30,8 +30,7 @@ void SettingsWorkflow::DeleteIfPossible(const std::string& path) {
     try {
         desktop_.FileSystem.Delete(path);
     } catch (const Failure&) {
-        // The file may be missing; what else prevents the deletion prevents the writing too, which reports
-        // it.
+        // The file may not exist. Any other cause prevents the writing too, which then reports it.
     }
 }
 

@@ -1,4 +1,4 @@
-// When settings are read and written, and on which file.
+// When settings are read and written, and in which file.
 #pragma once
 
 #include "platform/common_dialog.h"
@@ -14,19 +14,19 @@ class SettingsWorkflow {
     SettingsWorkflow(SettingsFile& file, CommonDialog& CMDialog, Platform& desktop)
         : file_(file), CMDialog_(CMDialog), desktop_(desktop) {}
 
-    /// Reads saved.stg beside the program, without a message on success.
+    /// Reads saved.stg in the program's directory. Shows no message on success.
     void AtStart();
-    /// Writes saved.stg anew from the live state. Without a message when all could be saved. Reports a
-    /// failure itself: texts that are too large to be read again leave the old file as it is, characters that
-    /// the code page cannot hold are in the file as "?", after any other failure the file is gone or
+    /// Replaces saved.stg by the current inputs. Shows no message when everything was saved. Reports a
+    /// failure itself: if the texts are too large to be read again, the old file stays unchanged; characters
+    /// that the code page cannot hold are in the file as "?"; after any other failure the file is missing or
     /// incomplete.
     void AtEnd();
 
-    /// Ask for a file, read it or write it, and say so. A cancel ends them without a word.
+    /// Ask for a file, read or write it, and show a message. After a cancel nothing happens.
     void LoadSettings();
     void SaveSettingsAs();
 
-    /// The path chosen in a prompt, empty after a cancel or a reported failure.
+    /// The path chosen in a prompt; empty after a cancel and after a failure, which was then reported.
     std::string GetSettingsFile();
     std::string GetSaveAsFile();
 
