@@ -1,4 +1,4 @@
-// What the program calls itself.
+// Name and version of the program.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@ namespace orvane {
 /// The caption of every plain message box and the title in the About box.
 inline constexpr const char* ApplicationTitle = "Orvane Software";
 
-/// The program's version record: the numbers of project() in CMakeLists.txt.
+/// The version in project() of CMakeLists.txt.
 struct VersionRecord {
     std::int16_t Major;
     std::int16_t Minor;

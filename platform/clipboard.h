@@ -1,4 +1,4 @@
-// The clipboard, and the memory blocks through which text gets there.
+// The clipboard, and the memory blocks in which text is passed to it.
 #pragma once
 
 #include <cstddef>
@@ -7,29 +7,32 @@
 
 namespace orvane {
 
-/// A memory block; 0 is none.
+/// A memory block; 0 means none.
 using GlobalHandle = std::uintptr_t;
 
 class Clipboard {
   public:
     virtual ~Clipboard() = default;
 
-    /// A block of `bytes` bytes by `flags` (66: moveable, filled with zeros); 0 if it cannot be had.
+    /// Allocates `bytes` bytes; returns 0 if that fails. `flags` 66: moveable, filled with zeros.
     virtual GlobalHandle GlobalAlloc(std::uint32_t flags, std::size_t bytes) = 0;
-    /// The block's address, null if it cannot be locked.
+    /// The address of the block; null if it cannot be locked.
     virtual char* GlobalLock(GlobalHandle block) = 0;
-    /// Copies `text` and a terminator to `address`.
+    /// Copies `text` and a terminating zero to `address`.
+    /// Requires: text.size() + 1 bytes at `address`.
     virtual void lstrcpy(char* address, const std::string& text) = 0;
-    /// 0 when the block is no longer locked.
+    /// Returns 0 when the block is no longer locked.
     virtual std::int32_t GlobalUnlock(GlobalHandle block) = 0;
     virtual void GlobalFree(GlobalHandle block) = 0;
 
-    /// Not 0 when the clipboard is open for this program.
+    /// Opens the clipboard for this program; returns 0 if that fails.
     virtual std::int32_t OpenClipboard() = 0;
     virtual void EmptyClipboard() = 0;
-    /// Format 1 is plain text. The block then belongs to the clipboard. 0 when it was not taken.
+    /// Returns 0 if the clipboard refuses the block; otherwise the clipboard owns it from now on. `format`
+    /// 1: plain text.
+    /// Requires: the clipboard is open.
     virtual GlobalHandle SetClipboardData(std::uint32_t format, GlobalHandle block) = 0;
-    /// Not 0 when the clipboard is closed.
+    /// Returns 0 if the clipboard could not be closed.
     virtual std::int32_t CloseClipboard() = 0;
 };
 

@@ -12,7 +12,7 @@ namespace orvane {
 
 namespace {
 
-/// What stands for a byte that is no part of any character.
+/// Replaces a byte that is not part of a valid UTF-8 sequence.
 constexpr char32_t ReplacementCharacter = 0xFFFD;
 
 unsigned char Byte(std::string_view text, std::size_t index) {
@@ -36,7 +36,8 @@ std::string Utf8(char32_t character) {
     return {static_cast<char>(0xF0U | (character >> 18U)), tail(12), tail(6), tail(0)};
 }
 
-/// A lead byte by its form: the bits that it gives, how many bytes follow, the least character so written.
+/// What a lead byte of UTF-8 says: its bits of the character, the number of bytes that follow, and the
+/// smallest character that is allowed to be written with so many bytes.
 struct Lead {
     char32_t bits;
     std::size_t followers;
@@ -55,8 +56,8 @@ Lead LeadOf(unsigned char byte) {
     return {ReplacementCharacter, 0, 0};
 }
 
-/// The character at `index`, which moves behind it. Of a sequence that is no character, the first byte alone
-/// is taken, as the replacement character.
+/// The character at `index`; `index` then stands after it. At an invalid sequence: the replacement
+/// character, and `index` moves by one byte.
 char32_t NextCharacter(std::string_view text, std::size_t& index) {
     const std::size_t start = index++;
     const Lead lead = LeadOf(Byte(text, start));
@@ -103,7 +104,7 @@ std::string CodePage::Encode(std::string_view text, Unmappable unmappable) const
     bytes.reserve(text.size());
     std::size_t index = 0;
     while (index < text.size()) {
-        // Nearly every text is plain ASCII, which every page holds under its own numbers.
+        // Most text is ASCII, which is the same in every code page: copied without a look-up.
         const auto run =
             std::find_if_not(text.begin() + static_cast<std::ptrdiff_t>(index), text.end(), IsAscii);
         const auto plain = static_cast<std::size_t>(run - text.begin()) - index;

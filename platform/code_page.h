@@ -1,4 +1,4 @@
-// The 8-bit code page in which text leaves the program. Inside, text is UTF-8.
+// The 8-bit code page of files and of the clipboard. Inside the program, text is UTF-8.
 #pragma once
 
 #include <array>
@@ -9,29 +9,30 @@
 
 namespace orvane {
 
-/// What becomes of a character that the page cannot hold.
+/// What Encode does with a character that the page cannot hold.
 enum class Unmappable {
-    Fail,             ///< a Failure that names the character and the page
-    QuestionMark,     ///< "?"
-    NumericReference, ///< "&#8805;", for web pages
+    Fail,             ///< throw a Failure that names the character and the page
+    QuestionMark,     ///< write "?"
+    NumericReference, ///< write "&#8805;", for web pages
 };
 
 class CodePage {
   public:
-    /// `name` for messages, such as "Windows-1252"; `characters[b]` the character of byte b, no two
-    /// alike, so that every byte makes the round trip. A byte that the page leaves undefined stands for the
-    /// control character of the same number, or, from A0 on, where there is none, for a private character.
+    /// `name` is used in messages, such as "Windows-1252"; characters[b] is the character of byte b.
+    /// Requires: no two characters are equal, so that decoding and encoding again gives the same bytes. A
+    /// byte that the page leaves undefined stands for the control character with its number or, from A0 on,
+    /// where no control characters are, for a character of the private use area.
     CodePage(std::string name, const std::array<char32_t, 256>& characters);
 
     [[nodiscard]] const std::string& Name() const { return name_; }
 
-    /// `text` in bytes of the page, one a character.
+    /// `text` as bytes of the page, one byte for each character.
     [[nodiscard]] std::string Encode(std::string_view text, Unmappable unmappable) const;
 
-    /// The characters of `text` that the page cannot hold, each once, as they are named in messages.
+    /// The characters of `text` that the page cannot hold, each once, in the form used in messages.
     [[nodiscard]] std::vector<std::string> CharactersNotHeld(std::string_view text) const;
 
-    /// The text of `bytes`, one character a byte.
+    /// The text of `bytes`, one character for each byte.
     [[nodiscard]] std::string Decode(std::string_view bytes) const;
 
   private:

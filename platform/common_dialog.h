@@ -6,23 +6,24 @@
 
 namespace orvane {
 
-/// One file prompt. It keeps its values between uses: what a use does not set stays as the last one left it.
+/// A file prompt. All fields keep their values between two uses.
 class CommonDialog {
   public:
-    /// A save prompt asks before it lets the user choose a file that exists.
+    /// Flags: a save prompt asks before it accepts the name of an existing file.
     static constexpr std::int32_t OverwritePrompt = 2;
 
     virtual ~CommonDialog() = default;
 
-    /// Modal. On return FileName is the full path chosen. A cancel is a Failure with the number
-    /// failure_number::Cancelled and leaves FileName as it was; any other problem has another number.
+    /// Shows the prompt and returns when it has closed; FileName is then the full path chosen. Throws a
+    /// Failure with the number failure_number::Cancelled when the user cancels, with another number for any
+    /// other problem; FileName is then unchanged.
     virtual void ShowOpen() = 0;
     virtual void ShowSave() = 0;
 
     std::int32_t Flags = 0;
-    std::string FileName; ///< before the show the name offered, after it the path chosen
+    std::string FileName; ///< before the prompt: the name offered; after it: the path chosen
     std::string DialogTitle;
-    std::string Filter; ///< descriptions and patterns in turn, "|" between all fields
+    std::string Filter; ///< description, pattern, description, pattern, ... separated by "|"
     std::string DefaultExt = "htm";
 };
 

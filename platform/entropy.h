@@ -1,4 +1,4 @@
-// Randomness of the operating system.
+// Random bytes of the operating system.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,8 @@ namespace orvane {
 class Entropy {
   public:
     virtual ~Entropy() = default;
-    /// Fills `bytes` with unpredictable bytes, or throws a Failure and leaves nothing usable in them.
+    /// Fills `bytes` with unpredictable bytes. If it cannot, it throws a Failure; the content of `bytes`
+    /// must then not be used.
     virtual void Fill(std::span<std::byte> bytes) = 0;
 };
 

@@ -1,4 +1,4 @@
-// The one kind of failure of the program: what could not be done, a number, and where it arose.
+// The exception type of the program: what could not be done, an error number, and where it was detected.
 #pragma once
 
 #include <cstdint>
@@ -8,8 +8,8 @@
 
 namespace orvane {
 
-/// Numbers of the failures that the program itself finds. Failures of files carry the operating system's
-/// own number instead. Each number is only shown, but for `Cancelled`.
+/// Numbers of failures that the program itself detects. Failures of files have the number of the operating
+/// system. The numbers are only shown to the user; only `Cancelled` is compared.
 namespace failure_number {
 inline constexpr std::int32_t Overflow = 20001;
 inline constexpr std::int32_t Arithmetic = 20002;
@@ -25,20 +25,21 @@ inline constexpr std::int32_t NoClipboard = 20011;
 inline constexpr std::int32_t TooLarge = 20012;
 inline constexpr std::int32_t CannotStart = 20013;
 inline constexpr std::int32_t Unexpected = 20099;
-/// The user cancelled a file prompt: this and nothing else.
+/// The user cancelled a file prompt. Not used for anything else.
 inline constexpr std::int32_t Cancelled = 32755;
 } // namespace failure_number
 
-/// Thrown where something cannot be done, caught at the failure paths and there alone.
+/// Thrown where something cannot be done. Caught where it is reported to the user, and where a comment says
+/// that a failure is ignored or counts as a result.
 struct Failure : std::exception {
     Failure(std::string description, std::int32_t number, std::string source)
         : Description(std::move(description)), Number(number), Source(std::move(source)) {}
 
     [[nodiscard]] const char* what() const noexcept override { return Description.c_str(); }
 
-    std::string Description; ///< in words, for the user
+    std::string Description; ///< text for the user
     std::int32_t Number;     ///< see failure_number
-    std::string Source;      ///< the routine or the part of the platform in which it arose
+    std::string Source;      ///< the routine or the part of the platform that detected it
 };
 
 } // namespace orvane

@@ -1,4 +1,4 @@
-// Messages that the user has to acknowledge.
+// Messages that the user has to confirm.
 #pragma once
 
 #include <string>
@@ -9,11 +9,11 @@ class MessageBox {
   public:
     virtual ~MessageBox() = default;
 
-    /// Shows `text` (UTF-8, CR LF between lines) with an OK button and no icon under the application's title.
-    /// Returns when the user has pressed OK.
+    /// Shows `text` (UTF-8, CR LF between lines) in a box with the application's title, an OK button and no
+    /// icon. Returns when the user has pressed OK.
     virtual void Show(const std::string& text) = 0;
 
-    /// The same with an exclamation icon and a caption of its own.
+    /// Like Show, with an exclamation mark icon and the title `title`.
     virtual void ShowExclamation(const std::string& text, const std::string& title) = 0;
 };
 

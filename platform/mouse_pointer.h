@@ -1,14 +1,14 @@
-// The pointer that tells the user that the program is busy.
+// The mouse pointer: busy or normal.
 #pragma once
 
 namespace orvane {
 
-/// The pointer is simply set: two busy calls are undone by one normal call.
+/// Calls are not counted: one ShowNormal ends any number of ShowBusy calls.
 class MousePointer {
   public:
     virtual ~MousePointer() = default;
     virtual void ShowBusy() = 0;
-    /// Clicks and keys that arrived while the pointer was busy are dropped.
+    /// Clicks and keys that arrived while the pointer was busy are discarded.
     virtual void ShowNormal() = 0;
 };
 

@@ -7,15 +7,16 @@
 
 namespace orvane {
 
-/// Rows and columns count from 0. Selecting a cell other than the current one runs the change handler inside
-/// the selecting step, and what it throws comes out of that step; selecting the current cell runs nothing.
+/// Rows and columns count from 0. SetRow and SetCol call the change handler before they return if the
+/// current cell changes, and throw what the handler throws. They do not call it if the cell is already
+/// current.
 class MSFlexGrid {
   public:
     virtual ~MSFlexGrid() = default;
 
     [[nodiscard]] virtual std::int16_t Rows() const = 0;
-    /// Rows that fall away take their texts with them, rows that come are empty. A current cell that falls
-    /// away moves to the last row, which is a selection.
+    /// Removes rows with their texts, or adds empty rows. If the current cell is removed, the current cell
+    /// moves to the last row, and the change handler is called.
     virtual void SetRows(std::int16_t rows) = 0;
 
     [[nodiscard]] virtual std::int16_t Row() const = 0;
@@ -27,10 +28,10 @@ class MSFlexGrid {
     [[nodiscard]] virtual std::string Text() const = 0;
     virtual void SetText(const std::string& text) = 0;
 
-    /// The text of a cell by its row and column, without selecting it.
+    /// The text of any cell. The current cell stays the same.
     [[nodiscard]] virtual std::string TextMatrix(std::int16_t row, std::int16_t col) const = 0;
 
-    /// The one change handler.
+    /// Sets the change handler; there is one, a later call replaces it.
     virtual void OnRowColChange(std::function<void()> handler) = 0;
 };
 

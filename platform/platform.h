@@ -1,5 +1,5 @@
-// Everything that the program needs of its desktop, handed in as one bundle. The real one is put together in
-// the program's main routine, tests hand in scripted ones.
+// What the program needs of its desktop, as one struct of references. main creates the real objects, tests
+// pass scripted ones.
 #pragma once
 
 #include "platform/clipboard.h"
@@ -26,7 +26,7 @@ struct Platform {
     Shell32& Shell;
     Clipboard& Board;
     Registry& Keys;
-    std::string ProgramDirectory; ///< the folder of the program file, without a separator at its end
+    std::string ProgramDirectory; ///< the folder of the program file, without a final separator
     char Separator;               ///< between the parts of a path
 
     /// The path of `name` in the program's directory.

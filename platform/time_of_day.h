@@ -6,7 +6,7 @@ namespace orvane {
 class TimeOfDay {
   public:
     virtual ~TimeOfDay() = default;
-    /// Seconds since local midnight with fractions, 0 up to 86400.
+    /// Seconds since local midnight, with fractions, from 0 to 86400.
     virtual float SecondsSinceMidnight() = 0;
 };
 

@@ -1,12 +1,12 @@
-// The source behind every random decision of the program.
+// The interface of the random number source, from which every random decision of the program is drawn.
 #pragma once
 
 #include <span>
 
 namespace orvane {
 
-/// Values U, 0 <= U < 1, uniform on the grid of the multiples of 2^-24, which 32-bit floats hold exactly.
-/// Every operation throws a Failure when the source has nothing unpredictable to start from.
+/// Gives values U, 0 <= U < 1, uniformly distributed over the multiples of 2^-24, which 32-bit floats hold
+/// exactly. Every operation throws a Failure when the source has no unpredictable start value.
 class UniformSource {
   public:
     virtual ~UniformSource() = default;
@@ -14,11 +14,10 @@ class UniformSource {
     /// The next value.
     virtual float UniformNext() = 0;
 
-    /// Fills `values` with the next values.size() values: bit for bit what that many calls of UniformNext
-    /// give.
+    /// Fills `values` with exactly the values that values.size() calls of UniformNext would return.
     virtual void UniformFill(std::span<float> values) = 0;
 
-    /// Mixes `value` into the state; never makes the state weaker.
+    /// Mixes `value` into the state. Never makes the state easier to guess.
     virtual void UniformReseed(float value) = 0;
 };
 

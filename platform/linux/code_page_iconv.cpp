@@ -19,7 +19,8 @@ namespace {
 
 constexpr int WesternNumber = 1252;
 
-/// Languages by page, in blanks. "sr@latin" is a language in the script that its modifier names.
+/// The languages of a page, each between spaces. "sr@latin" is a language together with the script that its
+/// modifier names.
 struct PageLanguages {
     int number;
     std::string_view languages;
@@ -41,7 +42,7 @@ constexpr std::array<PageLanguages, 10> Pages{{
     {874, " th "},
 }};
 
-/// The parts of language[_territory][.codeset][@modifier] that matter here, in small letters.
+/// The parts of language[_territory][.codeset][@modifier] that decide the page, in lower case.
 struct LanguageParts {
     std::string language;
     std::string modifier;
@@ -75,7 +76,7 @@ struct IconvClose {
 };
 using Converter = std::unique_ptr<std::remove_pointer_t<iconv_t>, IconvClose>;
 
-/// What stands for a byte without a character of its own.
+/// The character for a byte that the page leaves undefined.
 char32_t UndefinedCharacter(std::size_t byte) {
     constexpr std::size_t firstBehindControls = 0xA0;
     constexpr char32_t privateUse = 0xF700;
@@ -83,8 +84,8 @@ char32_t UndefinedCharacter(std::size_t byte) {
                                       : privateUse + static_cast<char32_t>(byte);
 }
 
-/// The character of one byte. Some pages hold a base character back to join it with a mark behind it, so the
-/// converter is asked to give out what it holds, and starts afresh with every byte.
+/// The character of one byte. For some pages iconv waits for the next byte, because a combining mark could
+/// follow. So the converter is reset before each byte and flushed after it.
 char32_t CharacterOf(iconv_t converter, std::size_t byte) {
     std::array<char, 1> in{static_cast<char>(byte)};
     std::array<char, 16> out{};

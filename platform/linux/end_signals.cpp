@@ -14,14 +14,14 @@ namespace orvane {
 
 namespace {
 
-/// A signal handler has no other way to its object.
+/// The descriptor, for the signal handler, which cannot get it in another way.
 std::atomic<int> signalled = -1;
 static_assert(std::atomic<int>::is_always_lock_free);
 
 void OnSignal(int /*signal*/) {
     const int before = errno;
     const std::uint64_t one = 1;
-    // A full counter is readable already.
+    // If the counter is full, the write fails; the descriptor is readable already then.
     [[maybe_unused]] const auto written = ::write(signalled, &one, sizeof one);
     errno = before;
 }

@@ -1,20 +1,21 @@
-// The signals that ask a program to end.
+// The signals that ask the program to end.
 #pragma once
 
 namespace orvane {
 
-/// While it lives, SIGTERM, SIGINT and SIGHUP end nothing by themselves: each makes the descriptor readable.
-/// One that was ignored at the start of the program, as nohup does, stays ignored. SIGPIPE is ignored, so
-/// that words for a terminal that is gone do no harm.
+/// As long as the object exists, SIGTERM, SIGINT and SIGHUP do not end the program; each makes the
+/// descriptor readable instead. A signal that was already ignored when the program started, as under nohup,
+/// stays ignored. SIGPIPE is ignored, so that writing to a closed terminal does not end the program.
 class EndSignals {
   public:
-    /// Throws a Failure when the system has no descriptor left.
+    /// Throws a Failure when the system has no free file descriptor.
+    /// Requires: no other object of this class exists.
     EndSignals();
     ~EndSignals();
     EndSignals(const EndSignals&) = delete;
     EndSignals& operator=(const EndSignals&) = delete;
 
-    /// Has something to read once a signal has come.
+    /// Readable as soon as a signal has arrived.
     [[nodiscard]] int Descriptor() const { return descriptor_; }
 
   private:

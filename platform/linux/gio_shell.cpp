@@ -17,8 +17,8 @@ constexpr std::int32_t AccessDenied = 5;
 constexpr std::int32_t NoAssociation = 31;
 constexpr std::int32_t Done = 42;
 
-/// Whether the program that the entry's command line names can be started. An entry without a command line is
-/// started by a message to a service, which tells itself whether that worked.
+/// Whether the program in the command line of the entry can be started. An entry without a command line is
+/// started by a D-Bus message, and GIO reports whether that worked.
 bool CanStartEntry(GAppInfo* app) {
     const char* const commandLine = g_app_info_get_commandline(app);
     if (commandLine == nullptr)
@@ -67,7 +67,7 @@ void GioShell::StartProgram(const std::string& path) {
     std::string program = path;
     std::array<gchar*, 2> arguments{program.data(), nullptr};
     GError* found = nullptr;
-    // Without further flags GLib collects the exit of the program itself.
+    // Without G_SPAWN_DO_NOT_REAP_CHILD GLib itself removes the ended process.
     g_spawn_async(nullptr, arguments.data(), nullptr, G_SPAWN_DEFAULT, nullptr, nullptr, nullptr, &found);
     if (const GLibPointer<GError> error{found})
         throw Failure("The program " + path + " could not be started: " + error->message,

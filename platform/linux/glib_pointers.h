@@ -1,4 +1,4 @@
-// Owners for what GLib hands out.
+// Smart pointers for objects of GLib.
 #pragma once
 
 #include <memory>
@@ -18,8 +18,8 @@ struct GLibDeleter {
     }
 };
 
-/// Owns a text, a list of texts that ends in null, an error, the links of a list, or a reference to an
-/// object.
+/// Owns a string, a null-terminated array of strings, an error, the links of a list (not its elements), or a
+/// reference to an object.
 template <typename T>
 using GLibPointer = std::unique_ptr<T, GLibDeleter>;
 

@@ -1,4 +1,4 @@
-// The clock of the system in the user's time zone.
+// The time of day in the user's time zone.
 #pragma once
 
 #include "platform/time_of_day.h"

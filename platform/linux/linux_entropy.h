@@ -1,4 +1,4 @@
-// Randomness from the kernel.
+// Random bytes from the kernel.
 #pragma once
 
 #include "platform/entropy.h"
@@ -10,8 +10,8 @@ namespace orvane {
 
 class LinuxEntropy : public Entropy {
   public:
-    /// Never waits for a kernel that has not gathered randomness yet: that is a NoEntropy failure too. After
-    /// a failure the bytes are zeros.
+    /// Does not wait when the kernel's random generator is not ready yet: that is a NoEntropy failure. After
+    /// a failure `bytes` is filled with zeros.
     void Fill(std::span<std::byte> bytes) override;
 };
 

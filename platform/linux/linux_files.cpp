@@ -30,7 +30,7 @@ constexpr mode_t OwnerAlone = 0600;
                   error, Source);
 }
 
-/// Repeats a call of the system that a signal interrupted.
+/// Repeats a system call that a signal interrupted.
 template <typename Call>
 auto Uninterrupted(Call&& call) {
     auto result = call();
@@ -45,14 +45,15 @@ void RequireRegular(const std::string& path, std::string_view what, const struct
                       failure_number::NotARegularFile, Source);
 }
 
-/// The path for a call of the system, which would take it only up to a terminator inside.
+/// The path for a system call. A path that contains a zero byte is a failure: the system call would use only
+/// the part before it.
 const char* SystemPath(const std::string& path) {
     if (path.find('\0') != std::string::npos)
         Fail(path, "opened", ENOENT);
     return path.c_str();
 }
 
-/// The system's number of an open file, closed at the end if nothing else did.
+/// Owns a file descriptor.
 class FileNumber {
   public:
     explicit FileNumber(int number) : number_(number) {}
@@ -73,12 +74,12 @@ class FileNumber {
     int number_;
 };
 
-/// Opens without waiting, whatever stands at the path, and without changing what a file holds.
+/// Opens without waiting, whatever kind of file `path` is, and without changing the content.
 int OpenWithoutWaiting(const std::string& path, int flags, mode_t mode) {
     const char* const name = SystemPath(path);
     const bool mustBeNew = (flags & O_EXCL) != 0;
     struct stat status {};
-    // To open a device can have effects of its own, so what is no file is not even opened.
+    // Opening a device can have side effects, so only regular files are opened.
     if (!mustBeNew && ::stat(name, &status) == 0)
         RequireRegular(path, "opened", status);
     const int number =
@@ -194,7 +195,7 @@ void LinuxFiles::Delete(const std::string& path) {
     struct stat status {};
     if (::lstat(SystemPath(path), &status) == -1)
         Fail(path, "deleted", errno);
-    // A link is the file's name, whatever it leads to.
+    // A symbolic link is deleted itself, whatever its target is.
     if (!S_ISLNK(status.st_mode))
         RequireRegular(path, "deleted", status);
     if (::unlink(path.c_str()) == -1)

@@ -1,4 +1,4 @@
-// Files of the desktop by the calls of the system.
+// Files with the system calls of Linux.
 #pragma once
 
 #include "platform/files.h"
@@ -10,8 +10,8 @@ namespace orvane {
 
 class LinuxFiles : public Files {
   public:
-    /// From here on a write that passes the user's limit of a file's size is a failure like any other;
-    /// without that the system would end the program.
+    /// Ignores SIGXFSZ for the whole program: a write beyond the user's limit of the file size is then a
+    /// failure like any other. Without this, the signal would end the program.
     LinuxFiles();
 
     std::unique_ptr<WritableFile> OpenForOutput(const std::string& path) override;

@@ -13,7 +13,7 @@ constexpr std::int32_t Success = 0;
 constexpr std::int32_t FileNotFound = 2;
 constexpr std::int32_t MoreData = 234;
 
-/// The full path of the first system information program that is installed, else empty.
+/// The full path of the first installed system information program; empty if there is none.
 std::string FindTool() {
     for (const char* const name : {"kinfocenter", "hardinfo2", "hardinfo"})
         if (const GLibPointer<gchar> found{g_find_program_in_path(name)})

@@ -8,7 +8,7 @@ namespace orvane {
 
 namespace {
 
-/// The path of the program file; empty where the system does not tell.
+/// The path of the program file; empty if the system does not tell it.
 std::string ProgramFile() {
     constexpr std::size_t longest = std::size_t{1} << 20U;
     for (std::size_t room = 256; room <= longest; room *= 2) {

@@ -12,8 +12,7 @@ namespace orvane {
 
 namespace {
 
-/// The interpreter that the first line of a script names; empty for a file that is no script or that only the
-/// system may read.
+/// The interpreter in the first line of a script; empty if the file is not a script or cannot be read.
 std::string InterpreterOf(const std::string& path) {
     constexpr std::size_t systemReads = 256;
     constexpr std::string_view blanks = " \t";

@@ -1,13 +1,13 @@
-// Whether the system would start a program, judged before it is asked to.
+// Tells before the start whether the system can start a program.
 #pragma once
 
 #include <string>
 
 namespace orvane {
 
-/// Whether `program`, a name to be looked for in PATH or a path, is an executable file, and, if it is a
-/// script, whether its interpreter is one. GIO starts a program through a helper, so a program that the
-/// system refuses would seem to have started.
+/// Whether `program`, a path or a name to be searched in PATH, is an executable file and, if it is a script,
+/// whether its interpreter is one too. Needed because GIO starts programs through a helper process, and so
+/// reports success for a program that the system refuses to start.
 bool CanStart(const std::string& program);
 
 } // namespace orvane
