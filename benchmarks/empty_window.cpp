@@ -1,5 +1,5 @@
-// The least that a program with a window can be, and with an argument a window with that one line of text:
-// what the start of the program is compared with.
+// The smallest program with a window; with an argument, a window that shows it as one line of text. The
+// start of the program is compared with the start of this one.
 #include <QApplication>
 #include <QLabel>
 #include <QMainWindow>

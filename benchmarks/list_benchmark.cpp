@@ -44,7 +44,7 @@ std::string TemporaryFile(const char* name) {
     return (std::filesystem::temp_directory_path() / name).string();
 }
 
-/// The file of a list, deleted at the end.
+/// The path of a list file; the destructor deletes the file.
 struct ListFile {
     explicit ListFile(const char* name) : path(TemporaryFile(name)) {}
     ListFile(const ListFile&) = delete;
@@ -53,7 +53,7 @@ struct ListFile {
     std::string path;
 };
 
-/// The program's way to make the list, with the clock and the entropy of this machine.
+/// Makes the list with the program's routines and the clock and entropy of this machine.
 void MakeList(benchmark::State& state, QuietDesktop& desk, Files& files, bool report) {
     const ListSettings settings = Settings();
     ListResults results;

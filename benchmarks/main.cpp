@@ -1,4 +1,4 @@
-// Runs the benchmarks and prints, at the end, the ratios that the program is held to.
+// Runs the benchmarks and prints the ratios given in docs/performance.md at the end.
 #include "ratios.h"
 
 #include <benchmark/benchmark.h>
@@ -13,8 +13,9 @@ namespace {
 
 using namespace orvane;
 
-/// Prints the medians and keeps them: the time of one exchange where exchanges are counted, else the time of
-/// a pass. CPU time, so that a machine that is shared disturbs less, but for what another process takes.
+/// Prints the medians and stores them: the time of one exchange where exchanges are counted, otherwise the
+/// time of one iteration. CPU time, because other processes on the machine disturb it less; elapsed time
+/// only for the start of a program.
 class MedianKeeper : public benchmark::ConsoleReporter {
   public:
     MedianKeeper() : ConsoleReporter(OO_None) {}
@@ -50,7 +51,7 @@ class MedianKeeper : public benchmark::ConsoleReporter {
         const auto exchange = run.counters.find(NanosecondsAnExchange);
         if (exchange != run.counters.end()) {
             kept = exchange->second.value;
-            exchange->second.value *= 1e-9; // printed with the unit of seconds
+            exchange->second.value *= 1e-9; // the reporter prints it in seconds
         }
     }
 
@@ -81,7 +82,7 @@ void PrintRatios(const MedianKeeper& medians) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    // What is compared is measured in turns, so that a slow moment of the machine meets all alike.
+    // In random order, so that a slow moment of the machine affects all compared measurements alike.
     std::string repeat = "--benchmark_repetitions=7";
     std::string inTurns = "--benchmark_enable_random_interleaving=true";
     std::vector<char*> arguments{argv[0], repeat.data(), inTurns.data()};

@@ -1,6 +1,6 @@
-// A plugin that the toolkit loads into a program when QT_QPA_GENERIC_PLUGINS names it. When the first window
-// has been painted, it writes the time (nanoseconds of the steady clock) and the peak of the memory
-// (kilobytes) to the standard output and ends the program there. The program itself knows nothing of it.
+// A plugin that Qt loads into a program when QT_QPA_GENERIC_PLUGINS names it. When the first window has been
+// painted, it writes the time (nanoseconds of the steady clock) and the peak memory (kilobytes) to standard
+// output and ends the program. The program contains no code for it.
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGenericPlugin>
@@ -33,7 +33,7 @@ class PaintWatch : public QObject {
     PaintWatch() { QCoreApplication::instance()->installEventFilter(this); }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        // The paintings of one window follow each other without a return to the event loop.
+        // All parts of the window are painted before the event loop runs again and the timer expires.
         if (event->type() == QEvent::Paint && timer_ == 0)
             timer_ = startTimer(0);
         return QObject::eventFilter(watched, event);

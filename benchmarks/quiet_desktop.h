@@ -1,5 +1,5 @@
-// What a report needs of a desktop besides the machine's own files, clock and entropy, doing as little as
-// possible.
+// A desktop for reports that does as little as possible. The benchmarks add the real files, clock and
+// entropy.
 #pragma once
 
 #include "platform/clipboard.h"
@@ -21,7 +21,7 @@
 
 namespace orvane {
 
-/// Keeps the last message: a benchmark is not valid when there is one.
+/// Stores the last message: a benchmark that showed one is not valid.
 class LastMessage : public MessageBox {
   public:
     void Show(const std::string& text) override { Text = text; }
@@ -35,7 +35,7 @@ class NoPointer : public MousePointer {
     void ShowNormal() override {}
 };
 
-/// Every file has a viewer, which is never started.
+/// Every file has a viewer; starting it does nothing.
 class NoViewer : public Shell32 {
   public:
     std::int32_t FindExecutableA(const std::string& /*path*/, std::string& /*program*/) override {
@@ -51,7 +51,7 @@ class NoViewer : public Shell32 {
     static constexpr std::int32_t success = 42;
 };
 
-/// No memory block can be had of it.
+/// Allocates no memory block.
 class NoClipboard : public Clipboard {
   public:
     GlobalHandle GlobalAlloc(std::uint32_t /*flags*/, std::size_t /*bytes*/) override { return 0; }
@@ -65,7 +65,7 @@ class NoClipboard : public Clipboard {
     std::int32_t CloseClipboard() override { return 0; }
 };
 
-/// Files that can only be written, and are gone when they are closed.
+/// Files that can only be written and are discarded when closed.
 class FilesInMemory : public Files {
   public:
     std::unique_ptr<WritableFile> OpenForOutput(const std::string& /*path*/) override {
@@ -90,7 +90,7 @@ class FilesInMemory : public Files {
     };
 };
 
-/// The names of the groups, which nobody edits.
+/// Fixed names of the groups.
 class FixedNames : public MSFlexGrid {
   public:
     explicit FixedNames(const std::vector<std::string>& names) : names_(names) {}

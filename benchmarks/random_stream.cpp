@@ -1,5 +1,6 @@
-// Writes the bits of the random source to the standard output, three bytes a value, for a battery of tests:
-// as many values as the first argument says, without one until nobody reads on.
+// Writes the bits of the random source to standard output, three bytes a value, for test batteries such as
+// dieharder. The first argument is the number of values; without it, writes until the reader closes the
+// pipe.
 #include "engine/random_source.h"
 #include "platform/linux/linux_entropy.h"
 

@@ -1,4 +1,4 @@
-// The names under which the figures are measured that the last lines of the output compare.
+// The names of the measurements from which the ratios are calculated.
 #pragma once
 
 #include <cstdint>

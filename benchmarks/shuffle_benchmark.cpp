@@ -1,5 +1,5 @@
-// Nanoseconds an exchange of a block's shuffle: the straightforward way, the program's, and the exchanges
-// alone.
+// The shuffle of a block in nanoseconds an exchange: straightforward code, the program's code, and the
+// exchanges alone.
 #include "engine/block_shuffle.h"
 #include "engine/list_settings.h"
 #include "engine/random_draws.h"
@@ -24,7 +24,8 @@ std::int64_t ExchangesOf(std::int64_t N) {
     return 10 * N * N;
 }
 
-/// Gives the time of one exchange, in nanoseconds, when each pass makes `exchanges` of them.
+/// Reports the time of one exchange in nanoseconds.
+/// Requires: each iteration makes `exchanges` exchanges.
 void CountExchanges(benchmark::State& state, std::int64_t exchanges) {
     state.counters[NanosecondsAnExchange] =
         benchmark::Counter(static_cast<double>(exchanges) * 1e-9,
@@ -38,7 +39,7 @@ void Straightforward(benchmark::State& state) {
     std::vector<std::string> names;
     for (std::int64_t i = 0; i < N; ++i)
         names.push_back("Group " + std::to_string(i % Groups + 1));
-    // A part of a large block's exchanges is as slow as all of them.
+    // The time of one exchange is the same throughout a shuffle: a part of it is enough for large blocks.
     const std::int64_t exchanges = std::min<std::int64_t>(ExchangesOf(N), 200'000);
     while (state.KeepRunning())
         straightforward::Shuffle(source, names, exchanges);
@@ -81,7 +82,7 @@ BENCHMARK(Straightforward)->Name(StraightforwardShuffle)->Apply(EverySize);
 BENCHMARK(Program)->Name(ProgramShuffle)->Apply(EverySize);
 BENCHMARK(ExchangesAlone)->Name(BareExchanges)->Apply(EverySize);
 
-/// The other versions that this machine runs, for what they would give on another one.
+/// The other versions of the loops that this machine can run: estimates for machines with older processors.
 const bool otherVersions = [] {
     for (const VectorKernels& kernels : RunnableKernels())
         if (&kernels != &BestKernels())

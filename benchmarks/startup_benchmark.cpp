@@ -1,4 +1,5 @@
-// From the start of a program until its window is painted: this program, and one with an empty window.
+// The time from the start of a program until its window is painted: this program, an empty window, and a
+// window with a line of text.
 #include "ratios.h"
 
 #include <benchmark/benchmark.h>
@@ -30,7 +31,7 @@ double Seconds(const timeval& time) {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
 }
 
-/// Reads all that comes out of `end`, up to its close.
+/// Reads from `end` until the writer closes it.
 std::string ReadAll(int end) {
     std::string text;
     std::array<char, 100> buffer{};
@@ -39,7 +40,7 @@ std::string ReadAll(int end) {
     return text;
 }
 
-/// Starts a program with the plugin that ends it behind its first painting.
+/// Starts a program with the plugin that ends it after its first painting.
 Start StartOnce(std::vector<std::string> command) {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0)

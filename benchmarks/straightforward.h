@@ -1,4 +1,4 @@
-// What the program does, done in the first way that comes to mind: the measure of what its own way gains.
+// The same work as the program's, in the most obvious code: the reference for the speed of the program.
 #pragma once
 
 #include "engine/chacha.h"
@@ -16,7 +16,7 @@
 
 namespace orvane::straightforward {
 
-/// The cipher of the program's own source, a block at a time, a value a word, a full batch at each reseed.
+/// The program's cipher, one block at a time, one value a word, 1024 values prepared again at each reseed.
 class Source : public UniformSource {
   public:
     explicit Source(Entropy& entropy);
@@ -32,17 +32,18 @@ class Source : public UniformSource {
     std::size_t next_ = 0;
 };
 
-/// A draw by one virtual call, rounded to nearest, ties to even.
+/// A draw with one virtual call, rounded to nearest, ties to even.
 std::int16_t Draw(UniformSource& random, std::int16_t Lo, std::int16_t Hi);
 
-/// `exchanges` exchanges of two freely drawn entries.
+/// Makes `exchanges` exchanges of two randomly drawn entries.
 void Shuffle(UniformSource& random, std::span<std::string> names, std::int64_t exchanges);
 
 /// Random mixed codes, each compared with every earlier one.
 std::vector<std::string> RandomCodes(std::size_t count, std::int16_t length, UniformSource& random,
                                      TimeOfDay& clock);
 
-/// Codes and text list of blocks that fit one row of the table, into the file `path`.
+/// Writes codes and assignments as a text list into the file `path`.
+/// Requires: every block fits into one row of the table.
 void WriteList(const ListSettings& settings, const std::vector<std::int16_t>& blockSizes,
                const std::vector<std::string>& groupNames, UniformSource& random, TimeOfDay& clock,
                const std::string& path);
