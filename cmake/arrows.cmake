@@ -1,7 +1,7 @@
-# Which folder may include which. Fails with the file and the line that reaches where it must not.
+# Checks which folder includes which. Fails and names each file and line with an include that is not allowed.
 #
 #   forms > settings > output > options > engine > platform (interfaces)
-#   forms/main.cpp alone puts in platform/qt and platform/linux, which see the interfaces only
+#   only forms/main.cpp includes platform/qt and platform/linux; these include the interfaces only
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -14,7 +14,7 @@ set(forms settings ${settings})
 set(everywhere "platform/linux" "platform/qt" platform engine options output settings forms)
 set(faults "")
 
-# check(FOLDER FILE SEES...): every quoted include of FILE leads into FOLDER itself or one of SEES.
+# check(FOLDER FILE SEES...): every quoted include of FILE must be in FOLDER itself or in one of SEES.
 function(check folder file)
   file(STRINGS "${file}" lines REGEX "^#include ")
   foreach(line IN LISTS lines)

@@ -1,5 +1,5 @@
-# Puts what must lie beside the program of version VERSION into APP. FOLDER is the folder that the desktop entry
-# names. The set-up of the last run, once there, is the user's own.
+# Copies the files that must be in the program's folder into APP: those of version VERSION. FOLDER is the folder
+# written into the desktop entry. An existing saved.stg belongs to the user and is not replaced.
 file(MAKE_DIRECTORY "${APP}")
 configure_file("${SOURCE}/orvane.svg" "${APP}/orvane.svg" COPYONLY)
 configure_file("${SOURCE}/randomization.htm" "${APP}/randomization.htm" @ONLY)

@@ -1,4 +1,4 @@
-# How libraries, the program and tests of this tree are built.
+# Functions that build the libraries, the program and the checks of this source tree.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -19,8 +19,8 @@ if(ORVANE_SANITIZE)
   target_link_options(orvane_sanitizers INTERFACE ${flags})
 endif()
 
-# orvane_library(FOLDER [LINKS lib...]): the static library of a folder.
-# The library of platform/qt is named platform_qt. Qt's generators run where Qt is linked.
+# orvane_library(FOLDER [LINKS lib...]): the static library of a folder; the library of platform/qt is named
+# platform_qt. A library that links Qt6::Widgets also gets Qt's code generators.
 function(orvane_library folder)
   cmake_parse_arguments(arg "" "" "LINKS" ${ARGN})
   string(REPLACE "/" "_" name ${folder})
@@ -37,9 +37,10 @@ function(orvane_library folder)
   target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}")
   target_link_libraries(${name} PUBLIC ${arg_LINKS} orvane_sanitizers PRIVATE orvane_warnings)
   if("Qt6::Widgets" IN_LIST arg_LINKS)
-    # Format 2 of the resources: later ones keep the time of each file.
-    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON AUTORCC_OPTIONS "--format-version;2")
-    # Rules of their own: with AUTOUIC an edited window takes effect only at the second build.
+    # Resource format 1: later formats store the time of each file, and the program would have different bytes
+    # in each build.
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON AUTORCC_OPTIONS "--format-version;1")
+    # Not AUTOUIC: with it, a changed window takes effect only at the second build.
     qt6_wrap_ui(headers ${windows})
     target_sources(${name} PRIVATE ${headers})
     target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
@@ -47,12 +48,12 @@ function(orvane_library folder)
   endif()
 endfunction()
 
-# The program, with all that must lie beside it, in the folder app of the build.
+# The program, with the files that it needs in its folder, in the folder app of the build.
 function(orvane_program)
   set(app "${CMAKE_BINARY_DIR}/app")
   add_executable(orvane "${CMAKE_SOURCE_DIR}/forms/main.cpp")
-  # Where an archive of the program keeps its libraries. As an RPATH, not a RUNPATH, the place counts for the libraries
-  # and plugins as well, which are packed as they are.
+  # The place of the libraries in the archive. RPATH, not RUNPATH: RPATH also applies to the libraries and plugins
+  # that the program loads, which are packed unchanged.
   set_target_properties(orvane PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${app}" INSTALL_RPATH "$ORIGIN/lib"
                                           BUILD_WITH_INSTALL_RPATH ON)
   target_link_options(orvane PRIVATE -Wl,--disable-new-dtags)
@@ -71,7 +72,7 @@ function(orvane_check_arrows)
   add_dependencies(orvane arrows)
 endfunction()
 
-# The version of project() is the one that docs/changes.md ends with.
+# The last version in docs/changes.md must be the version of project().
 function(orvane_check_changes)
   set(file "${CMAKE_SOURCE_DIR}/docs/changes.md")
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")

@@ -1,7 +1,7 @@
-# Sourced by the commands of the top folder: installs Debian packages that are missing, and lets the user of
-# sudo own what is built.
+# Sourced by the commands of the top folder: installs missing Debian packages, and keeps the build files in
+# the ownership of the user who called sudo.
 
-# need PACKAGE...: installs those of the packages that are not there. Quick when all are.
+# need PACKAGE...: installs those of the packages that are missing. Quick if none is.
 need() {
     local package missing=()
     for package in "$@"; do
@@ -21,8 +21,9 @@ need() {
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
 }
 
-# go_on_as_owner ARGUMENT...: when sudo made the owner of this tree root, hands over what root has built here
-# and starts the command with its arguments again as the owner, who can then do without sudo the next time.
+# go_on_as_owner ARGUMENT...: does something only if sudo made the owner of this source tree root. Then it
+# gives the files in build to the owner and restarts the command with its arguments as the owner, who needs
+# no sudo the next time.
 go_on_as_owner() {
     local owner
     owner=$(stat -c %u .)
@@ -31,15 +32,15 @@ go_on_as_owner() {
     exec sudo -u "#$owner" "$PWD/${0##*/}" "$@"
 }
 
-# To build the program, to run it, to test it, and to drive it on a display of its own.
+# The packages for building the program, running it, testing it, and driving it on a separate display.
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libglib2.0-dev)
-# The theme brings the file prompts of desktops that are built on GTK.
+# The theme provides the file prompts of GTK desktops.
 run_packages=(shared-mime-info fonts-dejavu-core qt6-gtk-platformtheme)
 wayland_packages=(qt6-wayland)
 test_packages=(libgtest-dev locales tidy)
 display_packages=(xvfb xauth openbox xdotool xclip imagemagick dbus-daemon at-spi2-core libatspi2.0-dev chromium)
-# To make the archive, with the plugins of Qt that go into it.
+# For the archive, which contains these plugins of Qt.
 package_packages=(libqt6svg6 qt6-gtk-platformtheme qt6-xdgdesktopportal-platformtheme qt6-wayland)
 check_packages=(bubblewrap)
-# To check the program and to write the record of it.
+# For ./validate.
 validation_packages=(libboost-math-dev nlohmann-json3-dev git)

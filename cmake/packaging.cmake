@@ -1,7 +1,7 @@
-# The archive of the program: one folder with the program and what lies beside it, lib and plugins with what it loads,
-# licenses with their terms.
+# The archive of the program: one folder with the program and its files, lib and plugins with the libraries that it
+# loads, licenses with their licence texts.
 
-# The plugins of Qt that the windows and prompts need: displays, themes, input, icons.
+# The Qt plugins for the windows and prompts: displays, themes, input methods, icons.
 set(kinds platforms/*qxcb platforms/*qwayland-generic platforms/*qoffscreen platformthemes/*qgtk3
   platformthemes/*qxdgdesktopportal platforminputcontexts/*compose* platforminputcontexts/*ibus* iconengines/*qsvg*
   imageformats/*qsvg* wayland-shell-integration/*xdg-shell* wayland-decoration-client/*bradient)
@@ -15,7 +15,7 @@ foreach(kind IN LISTS kinds)
   list(APPEND plugins ${found})
 endforeach()
 
-# The libraries that stay the desktop's own.
+# The libraries that are not packed, because the desktop provides them.
 execute_process(
   COMMAND ${CMAKE_COMMAND} "-DMODULES=${plugins}" "-DOUTPUT=${CMAKE_BINARY_DIR}/desktop_libraries.txt"
           -P "${CMAKE_SOURCE_DIR}/cmake/packaging_desktop.cmake"
@@ -44,7 +44,8 @@ install(PROGRAMS packaging/install-menu-entry packaging/remove-menu-entry DESTIN
 install(CODE "set(FOLDER \"${folder}\")\nset(LIBRARY_FOLDER \"${CMAKE_LIBRARY_ARCHITECTURE}\")")
 install(SCRIPT cmake/packaging_licenses.cmake)
 
-# CPack's own archives keep the owner and the time of every file; this one is the same whoever makes it, and when.
+# CPack's own archives contain the owner and time of every file. This archive has the same bytes whoever makes it
+# and whenever.
 set(CPACK_GENERATOR External)
 set(CPACK_EXTERNAL_ENABLE_STAGING ON)
 set(CPACK_EXTERNAL_PACKAGE_SCRIPT "${CMAKE_SOURCE_DIR}/cmake/packaging_archive.cmake")

@@ -1,4 +1,4 @@
-# Packs the staged folder: names sorted, owners and times fixed. The time comes from SOURCE_DATE_EPOCH.
+# Packs the staged folder: names sorted, owner and time fixed, the time from SOURCE_DATE_EPOCH.
 
 cmake_minimum_required(VERSION 3.25)
 

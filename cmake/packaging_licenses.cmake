@@ -1,9 +1,10 @@
-# Puts the terms of each library and plugin in FOLDER into FOLDER/licenses: what the Debian package that it comes from
-# says, and the common licences that this names. packages.txt tells the version of each and of its source.
+# Writes the licence of each library and plugin in FOLDER into FOLDER/licenses: the copyright file of the Debian
+# package that contains it, and the common licences that this file names. packages.txt lists the version of each
+# package and of its source package.
 
 cmake_minimum_required(VERSION 3.25)
 
-# ask(RESULT COMMAND...): the output of the command.
+# ask(RESULT COMMAND...): the output of the command, without line ends at its end.
 function(ask result)
   execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
   set(${result} "${output}" PARENT_SCOPE)
