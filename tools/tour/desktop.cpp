@@ -86,7 +86,7 @@ void Desktop::Start(const fs::path& program, const std::string& kind) {
     g_subprocess_launcher_set_stdout_file_path(launcher.get(), Log().c_str());
     if (!kind.empty())
         g_subprocess_launcher_setenv(launcher.get(), "XDG_CURRENT_DESKTOP", kind.c_str(), TRUE);
-    // Set on every desktop; it means something only together with KDE's name.
+    // Set for every desktop: it has an effect only together with the name KDE.
     g_subprocess_launcher_setenv(launcher.get(), "KDE_SESSION_VERSION", "5", TRUE);
     program_ = Spawn(launcher.get(), {program.string()});
 }
@@ -112,7 +112,7 @@ int Desktop::AwaitEnd() {
 
 std::optional<Window> Desktop::Active() const {
     const auto id = TryRun({"xdotool", "getactivewindow"});
-    // The window may be gone meanwhile.
+    // The window may have closed in the meantime.
     const auto title = id ? TryRun({"xdotool", "getwindowname", Line(*id)}) : std::nullopt;
     if (!title)
         return std::nullopt;
@@ -180,7 +180,7 @@ void Desktop::Click(const Box& box, int times) const {
 }
 
 void Desktop::SettleAndWrite(const Words& from, const fs::path& file) const {
-    constexpr int mostLooks = 20; // a caret goes on blinking
+    constexpr int mostLooks = 20; // a blinking caret never stops changing the picture
     const auto grab = [&] {
         Words words = {"import"};
         words.insert(words.end(), from.begin(), from.end());

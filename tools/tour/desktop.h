@@ -1,5 +1,5 @@
-// The display that this process runs on, with a person's hands and eyes: windows, keys, the mouse, pictures,
-// the clipboard.
+// The display on which this process runs, used as a person uses it: windows, keys, mouse, pictures,
+// clipboard.
 #pragma once
 
 #include "screen_reader.h"
@@ -17,21 +17,21 @@
 
 namespace orvane::driving {
 
-/// What was awaited did not come, or came out wrong.
+/// Something awaited did not happen, or a result is wrong.
 struct Fault : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
 using Words = std::vector<std::string>;
 
-/// The end of a wait: the time is over, and there was a number of looks within it. So nothing is given up
-/// only because the machine itself stood still.
+/// The end of a wait: the time is over and at least 50 looks were taken. So a wait does not end only because
+/// the machine was busy.
 class Deadline {
   public:
     explicit Deadline(std::chrono::milliseconds patience = std::chrono::seconds(60))
         : end_(std::chrono::steady_clock::now() + patience) {}
 
-    /// To be asked after each look.
+    /// Requires: called once after each look.
     bool Passed() { return ++looks_ > Fewest && std::chrono::steady_clock::now() > end_; }
 
   private:
@@ -42,79 +42,80 @@ class Deadline {
 
 /// The bytes of a file; empty if it cannot be read.
 std::string ReadFile(const std::filesystem::path& path);
-/// Writes a file, and its folder if need be. Throws Fault.
+/// Writes a file and creates its folder if necessary. Throws Fault.
 void WriteFile(const std::filesystem::path& path, const std::string& bytes);
 
-/// A window that had the keys when it was seen.
+/// A window that was active: the one that gets the keys.
 struct Window {
     std::string Id;
     std::string Title;
 };
 
-/// One program at a time runs here. Every wait ends with a Fault, which says what was awaited, when the
-/// program has ended or the patience is over.
+/// Runs one program at a time. A wait throws a Fault that says what was awaited, if the program has ended or
+/// the time is over.
 class Desktop {
   public:
-    /// Requires: this process was started by tools/on_display. Throws Fault otherwise.
+    /// Throws Fault if this process was not started by tools/on_display.
     Desktop();
-    /// Stops the program, if it still runs.
+    /// Stops the program if it is still running.
     ~Desktop();
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
-    /// A folder for whatever should vanish with the display.
+    /// A folder for temporary files: it is deleted when the display ends.
     [[nodiscard]] std::filesystem::path Folder() const { return folder_; }
 
-    /// Starts a program. It believes to be on the desktop `kind`, such as "GNOME" or "KDE", unless that is
-    /// empty.
+    /// Starts a program. With `kind`, such as "GNOME" or "KDE", the program behaves as on that desktop.
     void Start(const std::filesystem::path& program, const std::string& kind = "");
     [[nodiscard]] bool Running() const;
     void Signal(int number) const { g_subprocess_send_signal(program_.get(), number); }
-    /// The exit code of the program, which is expected to end by itself; 128 + the signal that ended it.
+    /// Waits for the end of the program. Returns its exit code, or 128 + the number of the signal that ended
+    /// it.
+    /// Requires: the program is ending by itself.
     int AwaitEnd();
 
-    /// The window that has the keys.
+    /// The active window.
     [[nodiscard]] std::optional<Window> Active() const;
     [[nodiscard]] std::vector<std::string> Titles() const { return reader_.Titles(); }
-    /// Waits until a window of exactly this title takes the keys.
+    /// Waits until a window with exactly this title is active.
     Window Await(const std::string& title);
-    /// Waits until any other window than this one takes the keys.
+    /// Waits until another window than this one is active.
     Window AwaitOther(const Window& window);
-    /// Waits until a window that had the keys has given them to another one, or is closed.
+    /// Waits until another window is active or the program has ended.
     void AwaitGone(const Window& window);
-    /// Waits until `come` is true; `what` names it in the Fault.
+    /// Waits until `come` returns true; `what` is its description in the Fault.
     void AwaitThat(const std::string& what, const std::function<bool()>& come);
 
-    /// Keys by their names, such as "ctrl+Tab", one after the other to the window that has the focus.
+    /// Presses keys, given by names such as "ctrl+Tab", one after the other in the control with the focus.
     void Press(const Words& keys);
     void Type(const std::string& text) const;
-    /// Clicks in the middle of a place; the pointer stays there.
+    /// Clicks in the middle of `box`; the mouse pointer stays there.
     void Click(const Box& box, int times = 1) const;
 
     [[nodiscard]] const ScreenReader& Reader() const { return reader_; }
 
-    /// Takes a picture of the part of the display that shows anything.
+    /// Saves a picture of the display without its empty border.
     void Picture(const std::filesystem::path& file) const;
-    /// Takes a picture of a window with its frame, as soon as it is painted.
+    /// Saves a picture of a window with its frame, as soon as its content no longer changes.
     void Picture(const Window& window, const std::filesystem::path& file) const;
 
-    /// The text of the clipboard, fetched as another program does.
+    /// The text that another program gets from the clipboard.
     [[nodiscard]] std::string Pasted() const { return Run({"xclip", "-selection", "clipboard", "-out"}); }
-    /// The arguments of every start of a viewer so far, first its name: "browser" or "reader".
+    /// The starts of viewers so far, each as the viewer's name, "browser" or "reader", and its arguments.
     [[nodiscard]] std::vector<Words> Viewed() const;
-    /// What the program has written to its standard output and error output.
+    /// What the program has written to standard output and standard error.
     [[nodiscard]] std::string Complaints() const { return ReadFile(Log()); }
 
-    /// The output of a command; nothing if it ended with another code than 0, or not within a minute.
+    /// The output of a command; nothing if its exit code is not 0 or it takes more than a minute.
     [[nodiscard]] static std::optional<std::string> TryRun(Words words);
-    /// The same, but a command that fails is a Fault.
+    /// The output of a command. Throws Fault if the command fails.
     static std::string Run(const Words& words);
 
   private:
     [[nodiscard]] std::filesystem::path Log() const { return folder_ / "log"; }
     void SettleAndWrite(const Words& from, const std::filesystem::path& file) const;
 
-    std::filesystem::path folder_; // set first: without it there is nothing to read
+    std::filesystem::path folder_; // first: throws without a display
     ScreenReader reader_;
     std::shared_ptr<GSubprocess> program_;
 };

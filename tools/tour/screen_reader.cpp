@@ -12,7 +12,7 @@ constexpr int AnswerTime = 3000; // milliseconds
 constexpr int DeepestControl = 30;
 constexpr int MostChildren = 200;
 
-/// Takes over a reference; nullptr stays nullptr.
+/// Takes ownership of a reference; nullptr is allowed.
 template <class T>
 std::shared_ptr<T> Own(T* object) {
     return {object, [](T* old) {
@@ -27,7 +27,7 @@ std::string Own(char* text) {
     return copy;
 }
 
-/// The children of a node, none if its program does not answer.
+/// The children of a node; none if the program does not answer.
 std::vector<Node> ChildrenOf(const Node& node) {
     std::vector<Node> children;
     const int count = atspi_accessible_get_child_count(node.get(), nullptr);
@@ -39,7 +39,7 @@ std::vector<Node> ChildrenOf(const Node& node) {
 
 std::vector<Node> AllWindows() {
     std::vector<Node> windows;
-    // A program can be there twice, once for each toolkit in it.
+    // A program can be in the tree twice, once for each toolkit that it uses.
     for (const Node& program : ChildrenOf(Own(atspi_get_desktop(0))))
         for (Node& window : ChildrenOf(program))
             windows.push_back(std::move(window));
@@ -50,7 +50,7 @@ std::string NameOf(const Node& node) {
     return Own(atspi_accessible_get_name(node.get(), nullptr));
 }
 
-/// The state as it is now, not as the library remembers it; nullptr if its program does not answer.
+/// The current state, not the one in the library's cache; nullptr if the program does not answer.
 std::shared_ptr<AtspiStateSet> StateOf(const Node& node) {
     atspi_accessible_clear_cache(node.get());
     return Own(atspi_accessible_get_state_set(node.get()));
@@ -84,8 +84,8 @@ bool Walk(const Node& node, int depth, const std::function<bool(const Control&)>
 ScreenReader::ScreenReader() {
     atspi_init();
     atspi_set_timeout(AnswerTime, AnswerTime);
-    // The library must remember nothing, because what it remembers is out of date when a window has changed.
-    // States are an exception: without them the library asks for one while it handles the answer of a GTK
+    // The library's cache is switched off, because it is out of date after a window has changed. The cache
+    // of states has to stay on: without it the library asks for a state while it handles the answer of a GTK
     // program, and waits for itself for ever.
     atspi_accessible_set_cache_mask(Own(atspi_get_desktop(0)).get(), ATSPI_CACHE_STATES);
 }

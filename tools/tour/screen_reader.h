@@ -1,4 +1,4 @@
-// The windows of programs as a screen reader finds them.
+// The windows of programs, read through the accessibility tree as a screen reader does.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@
 
 namespace orvane::driving {
 
-/// A place on the display, in pixels.
+/// A rectangle on the display, in pixels.
 struct Box {
     int X = 0;
     int Y = 0;
@@ -18,10 +18,10 @@ struct Box {
     int Height = 0;
 };
 
-/// A control that is shown, as it was at the look.
+/// A visible control, in the state at the time of the look.
 struct Control {
     std::string Role; ///< such as "push button" or "label"
-    std::string Name; ///< the caption, or the accessible name
+    std::string Name; ///< the accessible name, often the caption
     std::string Text; ///< the content of a text box
     bool Focused = false;
     bool Checked = false;
@@ -34,15 +34,15 @@ class ScreenReader {
   public:
     ScreenReader();
 
-    /// The titles of the windows that are shown.
+    /// The titles of the visible windows.
     [[nodiscard]] std::vector<std::string> Titles() const;
-    /// Shows the controls of all windows of this title to `look`, outer ones before inner ones, until it
-    /// returns true. Returns whether it did.
+    /// Calls `look` for the controls of all windows with this title, parents before children, until it
+    /// returns true. Returns whether it returned true.
     bool Any(const std::string& title, const std::function<bool(const Control&)>& look) const;
 
-    /// Where a control is on the display; an empty box if it is gone.
+    /// The rectangle of a control; empty if the control no longer exists.
     [[nodiscard]] static Box PlaceOf(const Control& control);
-    /// Asks a control to take the focus; false if its kind does not take it in this way.
+    /// Asks a control to take the focus. Returns false if this kind of control refuses.
     static bool Focus(const Control& control);
 };
 

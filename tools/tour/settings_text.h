@@ -1,4 +1,4 @@
-// Settings files as a person would write them.
+// Settings files, written without the program.
 #pragma once
 
 #include <sstream>
@@ -7,7 +7,7 @@
 
 namespace orvane::driving {
 
-/// A set-up, at first the one of a first start.
+/// The content of a settings file. The default values are those of the saved.stg for the first start.
 struct SettingsText {
     std::vector<std::string> Groups = {"Group 1", "Group 2"};
     std::string SampleSize{};
@@ -20,7 +20,7 @@ struct SettingsText {
     int OutputOption = 0;
 };
 
-/// The bytes of its settings file.
+/// The bytes of the settings file.
 inline std::string BytesOf(const SettingsText& settings) {
     std::ostringstream bytes;
     const auto write = [&](const auto& line) { bytes << line << "\r\n"; };

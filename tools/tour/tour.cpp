@@ -1,9 +1,9 @@
-// The guided tour: drives the program through a whole generation on a display of its own.
+// The guided tour: uses every function of the program on a separate display.
 //
 // tour APP_FOLDER OUTPUT_FOLDER
 //
-// leaves the lists and a picture of every window in OUTPUT_FOLDER, names each on its standard output, and
-// ends with 0 if all it saw was right.
+// Saves the lists and a picture of every window in OUTPUT_FOLDER and prints the name of each. The exit code
+// is 0 only if everything seen was right. Start it with tools/on_display.
 #include "platform/application.h"
 #include "user.h"
 #include "written_lists.h"
@@ -31,8 +31,8 @@ std::string Version() {
            std::to_string(version.Revision);
 }
 
-/// The folder of the pictures and lists, with a list of its content as the mark by which the next tour knows
-/// it.
+/// The folder of the pictures and lists. It contains an index file, by which the next tour recognises the
+/// folder before it deletes the old content.
 class Album {
   public:
     explicit Album(const fs::path& folder) : folder_(folder), index_(folder / "tour.txt") {
@@ -42,7 +42,7 @@ class Album {
         WriteFile(index_, "");
     }
 
-    /// The path under which a thing shall stand, which is named to the reader.
+    /// Adds a line to the index and to standard output, and returns the path for the new file.
     fs::path Add(const std::string& what, const std::string& file) {
         const std::string line = what + ": " + (folder_ / file).string() + "\n";
         std::cout << line << std::flush;
@@ -99,7 +99,7 @@ class Tour {
         desktop_.Picture(window, album_.Add(what, file + ".png"));
     }
 
-    /// A message of this text, its picture taken, confirmed.
+    /// Waits for a message with this text, saves a picture of it and confirms it.
     void Meet(const std::string& text, const std::string& what, const std::string& file) {
         const Message message = user_.AwaitMessage();
         Demand(message.Text == text, "the message \"" + message.Text + "\" instead of \"" + text + "\"");
@@ -163,7 +163,7 @@ class Tour {
         Take(user_.AwaitMain(), "main window, filled in", "main-window-filled-in");
     }
 
-    /// Starts a generation and goes through the four tabs of the options.
+    /// Starts a generation and sets options in all four tabs.
     void SetOptions() {
         const Window options = user_.OpenOptions();
         user_.FocusOn(OptionsTitle, "Only one block");
@@ -193,7 +193,7 @@ class Tour {
         desktop_.AwaitGone(options);
     }
 
-    /// Starts a generation with the options as they are.
+    /// Starts a generation and confirms the options unchanged.
     void Generate() {
         const Window options = user_.OpenOptions();
         Demand(user_.Find(OptionsTitle, "radio button", "Random sizes of").Checked,
@@ -312,7 +312,7 @@ class Tour {
         TakePage(page, "help page", "help-page.png");
     }
 
-    /// A picture of a web page in a browser.
+    /// Saves a picture of a web page in a browser.
     void TakePage(const fs::path& page, const std::string& what, const std::string& file) {
         const fs::path picture = desktop_.Folder() / file;
         Desktop::Run({"chromium", "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars",

@@ -12,8 +12,8 @@ namespace {
 constexpr int MostSteps = 40;
 constexpr std::chrono::milliseconds Glance{10};
 
-/// Whether the control is the one of this name that gets the keys. Cells and tabs keep a focus of their own
-/// within a control that has lost the keyboard's.
+/// Whether this is the control with this name that gets the keys. Table cells and tabs are left out: they
+/// report a focus even when their table or tab bar has lost it.
 bool HasKeys(const Control& control, const std::string& name) {
     return control.Focused && control.Name == name && control.Role != "table cell" &&
            control.Role != "page tab" && control.Role != "panel";
@@ -141,7 +141,7 @@ void User::Generate() {
 }
 
 void User::Answer(const Window& prompt, const std::string& path) {
-    constexpr int mostTries = 3; // the first letters can be lost on the way to a box that opens for them
+    constexpr int mostTries = 3; // a prompt may open its text box at the first letters and lose some of them
     const auto holds = [&] {
         return desktop_.Reader().Any(prompt.Title, [&](const Control& control) {
             return control.Role == "text" && control.Text == path;

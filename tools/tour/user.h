@@ -1,12 +1,12 @@
-// A person who works with the program, and reads what its windows show.
+// Uses the program as a person does: presses keys, clicks, and reads the windows.
 //
-// A program that drives it this way links the library `driving` and is started by tools/on_display:
+// A program that uses this class links the library `driving` and is started with tools/on_display:
 //
 //     Desktop desktop;
 //     User user(desktop, folderOfTheProgram);
 //     user.KeepSettings({.Groups = {"A", "B"}, .SampleSize = "20"});
 //     user.StartProgram();
-//     user.Generate();                                         // the options as they are
+//     user.Generate();                                         // with the options unchanged
 //     user.Answer(desktop.Await(SaveListTitle), "/tmp/list.txt");
 //     ...
 //     user.Exit();
@@ -31,68 +31,70 @@ constexpr const char* RandomFileTitle = "Select the random file";
 constexpr const char* SaveSettingsTitle = "Save Settings As...";
 constexpr const char* LoadSettingsTitle = "Select the Settings file";
 
-/// A message box that waits for its button.
+/// An open message box.
 struct Message {
     Window Box;
     std::string Text;
 };
 
-/// Works in a copy of the program's folder, so that the settings of its last run are this person's own.
+/// Works in a copy of the program's folder, so that the original settings of the last run are not changed.
 class User {
   public:
-    /// Copies the program's folder; a copy that is there already is deleted before.
+    /// Copies the program's folder; an existing copy is deleted first.
     User(Desktop& desktop, const std::filesystem::path& programFolder);
 
-    /// Removes the settings of the last run, so that the next start finds none.
+    /// Deletes the settings of the last run, so that the next start finds none.
     void ForgetSettings() const { std::filesystem::remove(SavedSettings()); }
     void KeepSettings(const SettingsText& settings) const { WriteFile(SavedSettings(), BytesOf(settings)); }
 
-    /// The copy of the program's folder. Blanks and letters outside ASCII stand in its name.
+    /// The copy of the program's folder. Its name contains spaces and letters outside ASCII.
     [[nodiscard]] std::filesystem::path Folder() const { return desktop_.Folder() / "Orvane für Prüfungen"; }
     [[nodiscard]] std::filesystem::path SavedSettings() const { return Folder() / "saved.stg"; }
 
-    /// Starts the program as on the desktop `kind`; a message of the start is for the caller.
+    /// Starts the program as on the desktop `kind`. A message that it shows at the start is left open.
     void StartProgram(const std::string& kind = "") { desktop_.Start(Folder() / "orvane", kind); }
-    /// Ends the program from its main window, and returns its exit code.
+    /// Ends the program with the menu of its main window and returns its exit code.
     int Exit();
     int CloseFrame();
 
-    /// The first control with this role and name. Awaits it.
+    /// Waits for a control with this role and name and returns the first one.
     Control Find(const std::string& title, const std::string& role, const std::string& name);
-    /// Waits until there is such a control, and it is as `fits` wants it.
+    /// Waits until `fits` returns true for a control of the window; `what` is its description in the Fault.
     void AwaitControl(const std::string& title, const std::string& what,
                       const std::function<bool(const Control&)>& fits);
-    /// Waits until the text box of this name holds `text`.
+    /// Waits until the text box with this name contains `text`.
     void AwaitText(const std::string& title, const std::string& name, const std::string& text);
 
-    /// Gives the control of this name the focus. Only a window that takes the keys can have it.
+    /// Gives the focus to the control with this name.
+    /// Requires: the window is active or becomes active.
     void FocusOn(const std::string& title, const std::string& name);
-    /// Steps with the Tab key until the control of this name has the focus.
+    /// Presses the Tab key until the control with this name has the focus.
     void TabTo(const std::string& title, const std::string& name);
-    /// Replaces the text of the text box of this name.
+    /// Replaces the text of the text box with this name.
     void Fill(const std::string& title, const std::string& name, const std::string& text);
     void Click(const std::string& title, const std::string& role, const std::string& name);
 
-    /// Opens the menus up to the last item, which is shown and not chosen.
+    /// Opens the menus down to the last item, which is highlighted but not chosen.
     void OpenMenu(const Words& items);
     void LeaveMenu();
     void Choose(const Words& items);
 
-    /// Opens the options from the main window by the Enter key.
+    /// Opens the options window with the Enter key in the main window.
     Window OpenOptions();
-    /// Starts a generation with the options as they are.
+    /// Starts a generation with the options unchanged.
     void Generate();
-    /// Gives a file prompt a path, or any other answer than the name that it offers.
+    /// Types a path into a file prompt and confirms it.
+    /// Requires: the path is not the name that the prompt offers.
     void Answer(const Window& prompt, const std::string& path);
 
-    /// Waits for a message. It stays until Confirm.
+    /// Waits for a message box, which stays open until Confirm.
     Message AwaitMessage();
     void Confirm(const Message& message);
-    /// Waits for the main window to take the keys.
+    /// Waits until the main window is active.
     Window AwaitMain() { return desktop_.Await(MainTitle); }
-    /// Waits until a viewer was started last, with this file.
+    /// Waits until the last start of a viewer is `viewer` with this file.
     void AwaitViewer(const std::string& viewer, const std::filesystem::path& file);
-    /// Fails if any other window than the main one is there, now or within the next second.
+    /// Throws Fault if another window than the main window is open, now or within the next second.
     void ExpectQuiet();
 
   private:

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t ColumnWidth = 20;
 
-/// The lines of a text in which every line ends in CR LF.
+/// The lines of a text. Throws Fault unless every line ends in CR LF.
 std::vector<std::string> Lines(const std::string& text) {
     std::vector<std::string> lines;
     std::size_t begin = 0;
