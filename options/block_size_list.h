@@ -18,11 +18,11 @@ class BlockSizeList {
                   Platform& desktop)
         : settings_(settings), results_(results), controls_(controls), desktop_(desktop) {}
 
-    /// Returns true if the list cannot be used, otherwise false with BlockSizes filled. BuildArr shows its
-    /// own message for a fault that it finds; the caller shows its message after every true. Throws an
-    /// Overflow failure if a number, the count of listed sizes or the length of the text does not fit 16
-    /// bits, or if the drawn blocks pass 32767 before they reach the sample size; an OutOfRange failure if
-    /// the list contains no size; and what the random source throws.
+    /// Returns true if the list cannot be used, otherwise false with BlockSizes filled. BuildArr shows a
+    /// message of its own for the faults that it finds; the caller shows another one whenever the result is
+    /// true. Throws an Overflow failure if a number, the count of listed sizes or the length of the text
+    /// does not fit 16 bits, or if the drawn blocks exceed 32767 before they reach the sample size; an
+    /// OutOfRange failure if the list contains no size; and what the random source throws.
     bool NotValid(const std::string& InpStr);
 
     /// `S` without its spaces (U+0020); other white space stays.

@@ -63,7 +63,7 @@ void ShownFile::DeleteIfTemporary() {
     try {
         desktop_.FileSystem.Delete(OutputFileName_);
     } catch (...) {
-        // The file is gone already or cannot be deleted; the user could do nothing about it when a window
+        // The file no longer exists or cannot be deleted. The user could do nothing about it while a window
         // closes.
     }
 }

@@ -23,6 +23,7 @@ class ShownFile {
     /// Sets the start values of the window's prompts in `CMDialog`.
     ShownFile(Platform& desktop, CommonDialog& CMDialog);
 
+    /// Sets the file. The other operations work on this file.
     void OutputFileName(const std::string& strOutputFileName, bool temporary);
 
     /// Reads the file into `text` and shows the normal pointer. Reports a failure itself; `text` keeps the

@@ -22,9 +22,12 @@ class TextFileWriter {
     TextFileWriter& operator=(const TextFileWriter&) = delete;
     ~TextFileWriter();
 
+    /// Throws what the code page and the file throw.
     void Write(std::string_view text);
-    /// `text` and a line end.
+    /// Writes `text` and a line end.
     void WriteLine(std::string_view text);
+    /// Writes the rest of the buffer and closes the file. Throws if either fails.
+    /// Requires: called at most once, and nothing is written afterwards.
     void Close();
 
   private:

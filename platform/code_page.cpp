@@ -56,7 +56,7 @@ Lead LeadOf(unsigned char byte) {
     return {ReplacementCharacter, 0, 0};
 }
 
-/// The character at `index`; `index` then stands after it. At an invalid sequence: the replacement
+/// The character at `index`, which moves to the next character. At an invalid sequence: the replacement
 /// character, and `index` moves by one byte.
 char32_t NextCharacter(std::string_view text, std::size_t& index) {
     const std::size_t start = index++;

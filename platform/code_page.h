@@ -18,10 +18,10 @@ enum class Unmappable {
 
 class CodePage {
   public:
-    /// `name` is used in messages, such as "Windows-1252"; characters[b] is the character of byte b.
-    /// Requires: no two characters are equal, so that decoding and encoding again gives the same bytes. A
-    /// byte that the page leaves undefined stands for the control character with its number or, from A0 on,
-    /// where no control characters are, for a character of the private use area.
+    /// `name` is used in messages, such as "Windows-1252"; characters[b] is the character of byte b. A byte
+    /// that the page leaves undefined stands for the control character with its number or, from A0 on, where
+    /// no control characters are, for a character of the private use area.
+    /// Requires: no two characters are equal, so that decoding and encoding again gives the same bytes.
     CodePage(std::string name, const std::array<char32_t, 256>& characters);
 
     [[nodiscard]] const std::string& Name() const { return name_; }
