@@ -9,8 +9,7 @@ namespace orvane {
 class Entropy {
   public:
     virtual ~Entropy() = default;
-    /// Fills `bytes` with unpredictable bytes. If it cannot, it throws a Failure; the content of `bytes`
-    /// must then not be used.
+    /// Fills `bytes` with unpredictable bytes, or throws a Failure and leaves no random bytes in `bytes`.
     virtual void Fill(std::span<std::byte> bytes) = 0;
 };
 

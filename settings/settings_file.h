@@ -41,9 +41,9 @@ class SettingsFile {
     /// failure itself; the file then contains what was written so far.
     void SaveSettings(const std::string& FileNameStr, bool Announce, Unmappable unmappable);
 
-    /// Reads the file into the current inputs, each value as soon as its line is read; with `Announce`,
-    /// shows a message afterwards. An empty name does nothing. Reports a failure itself; the values read so
-    /// far remain.
+    /// Reads the file into the current inputs, each value as soon as its line is read, and then sets the
+    /// significance level to 0.05; with `Announce`, shows a message afterwards. An empty name does nothing.
+    /// Reports a failure itself; the values read so far remain.
     void SetSettings(const std::string& FileNameStr, bool Announce);
 
     /// Throws a TooLarge failure if a file of the current inputs would be larger than SetSettings can read.

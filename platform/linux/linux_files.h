@@ -1,4 +1,4 @@
-// Files with the system calls of Linux.
+// Files, with the system calls of Linux.
 #pragma once
 
 #include "platform/files.h"
