@@ -5,6 +5,7 @@
 #include "forms/flex_grid_widget.h"
 #include "forms/line_box.h"
 #include "forms/main_form.h"
+#include "settings/settings_file.h"
 #include "window_driver.h"
 
 #include <QAction>
