@@ -40,7 +40,7 @@ figcaption { font-size: 8.5pt; font-style: italic; margin-top: 1mm; }
 .check.bad { border-left: 5pt solid #000; }
 .outcome { font-weight: bold; break-after: avoid; }
 .reasons { font-weight: bold; }
-.file { font-size: 8.5pt; }
+.file { display: inline-block; width: 31%; margin: 0 0 1mm; font-size: 8.5pt; }
 .signatures td { height: 13mm; }
 @media print {
   body { max-width: none; padding: 0; }
