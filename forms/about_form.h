@@ -14,7 +14,7 @@ class frmAbout;
 
 namespace orvane {
 
-/// A box for one opening.
+/// Each object is built, shown once and destroyed.
 class AboutForm : public QDialog {
     Q_OBJECT
 

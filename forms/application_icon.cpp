@@ -1,6 +1,6 @@
 #include "forms/application_icon.h"
 
-/// A library's resources are not there before this call, which may stand in no namespace.
+/// Registers the resources of this static library. The macro must be used outside any namespace.
 static void LoadResources() {
     Q_INIT_RESOURCE(forms);
 }

@@ -1,4 +1,4 @@
-// The picture of the program.
+// The icon of the program.
 #pragma once
 
 #include <QIcon>

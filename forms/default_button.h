@@ -1,4 +1,4 @@
-// Enter presses the default button of a window.
+// The default button of a window, which Enter presses.
 #pragma once
 
 #include <QObject>
@@ -7,9 +7,9 @@
 namespace orvane {
 
 /// Enter and keypad Enter without other modifiers press `button`, whatever control of its window has the
-/// focus; a push button that has the focus takes them itself. A key that is held down presses once. The
-/// toolkit's own default button works in dialogs alone, and some desktop themes give Enter to check boxes,
-/// option buttons and frames.
+/// focus, except a push button, which is then pressed itself. A key that is held down presses once. The
+/// toolkit's own default button works only in dialogs, and with some desktop themes check boxes, option
+/// buttons and frames handle Enter themselves.
 class DefaultButton : public QObject {
   public:
     /// Requires: the window has all its controls.

@@ -1,4 +1,4 @@
-// The one guard around the events of a window.
+// Error handling around the event handlers of a window.
 #pragma once
 
 #include "output/glb_util.h"
@@ -11,16 +11,15 @@
 
 namespace orvane {
 
-/// What becomes of a failure in the handlers of a window:
+/// How a failure in a handler of a window is treated:
 ///
-/// - The user causes an event: its handler runs in Handle. A failure that no routine catches is reported
-/// once,
-///   under the normal pointer, and the program goes on.
-/// - The program itself moves a control: it does so in Calling, and the handlers run inside that statement.
-///   Their failure is thrown by Calling, so that it belongs to the routine that moved the control.
+/// - The user causes an event: the handler runs in Handle. A failure that no routine catches is
+///   reported once, with the normal pointer shown, and the program goes on.
+/// - The program changes a control: it does so in Calling, and the control's handlers run inside this
+///   statement. Calling rethrows their failure, so that it reaches the routine that changed the control.
 ///
-/// Between a handler and Calling lies the toolkit, which no exception may cross. So Handle keeps an exception
-/// of an inner handler, and Calling throws it.
+/// No exception may pass through the toolkit, which calls the handlers. So Handle stores an exception of an
+/// inner handler, and Calling rethrows it.
 class EventGuard {
   public:
     EventGuard(MessageBox& messages, MousePointer& pointer) : messages_(messages), pointer_(pointer) {}
@@ -38,7 +37,7 @@ class EventGuard {
         }
     }
 
-    /// Runs a call of the toolkit that may run handlers, and throws what they threw.
+    /// Makes a call of the toolkit that may run handlers, and rethrows what they threw.
     template <std::invocable Call>
     void Calling(Call&& call) {
         {
@@ -59,7 +58,7 @@ class EventGuard {
             pointer_.ShowNormal();
             ReportError(failure, messages_);
         } catch (...) {
-            // Nothing is left with which to tell the user; the program goes on.
+            // The failure cannot be reported; the program goes on.
         }
     }
 
@@ -80,8 +79,8 @@ class EventGuard {
 
     MessageBox& messages_;
     MousePointer& pointer_;
-    int depth_ = 0;           ///< handlers and calls that are running inside one another
-    std::exception_ptr kept_; ///< on its way from an inner handler to Calling
+    int depth_ = 0;           ///< nesting depth of Handle and Calling
+    std::exception_ptr kept_; ///< from an inner handler, until rethrown
 };
 
 } // namespace orvane

@@ -21,7 +21,7 @@ namespace {
 constexpr int FontPixels = 13;
 constexpr int FixedColumnPixels = 64;
 constexpr int CellMargin = 3;
-/// More of a long text would not show, and measuring it would take time.
+/// Characters of a text that are measured and drawn. More do not fit into a cell and would take time.
 constexpr int LongestShown = 500;
 constexpr int LongestTip = 1000;
 constexpr std::int16_t FixedColumn = 0;
@@ -48,7 +48,7 @@ class CellPainter : public QStyledItemDelegate {
         painter->restore();
     }
 
-    /// The whole text of a cell that shows only its start.
+    /// Shows the whole text as a tool tip if the cell shows only its start.
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override {
         if (event->type() != QEvent::ToolTip)
@@ -62,7 +62,7 @@ class CellPainter : public QStyledItemDelegate {
 
   private:
     static QRect Inside(const QRect& cell) { return cell.adjusted(CellMargin, 0, -CellMargin - 1, -1); }
-    /// A tool tip would take a text with tags for a page.
+    /// Escaped, because a tool tip would interpret tags in the text as HTML.
     static QString Plain(const QString& text) {
         return QStringLiteral("<p>%1</p>").arg(text.left(LongestTip).toHtmlEscaped());
     }
@@ -107,7 +107,7 @@ FlexGridWidget::FlexGridWidget(QWidget* parent) : QTableWidget(parent) {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2);
 }
 
-/// The frame of the style loses its top and bottom lines where the screen is scaled by a fraction.
+/// The style's own frame loses its top and bottom lines on screens with a fractional scale factor.
 void FlexGridWidget::DrawPlainFrame() {
     QPalette colours = palette();
     colours.setColor(QPalette::WindowText, colours.color(QPalette::Dark));
@@ -121,7 +121,7 @@ void FlexGridWidget::SetRows(std::int16_t rows) {
                       "SetRows");
     const int before = rowCount();
     setRowCount(rows);
-    // Assistive programs read them; the default ones count from 1 in row 0.
+    // Assistive programs read these row headers. The default ones give row 0 the number 1.
     for (int row = before; row < rows; ++row)
         setVerticalHeaderItem(row, new QTableWidgetItem(QString::number(row)));
     if (row_ >= rows)
@@ -209,7 +209,7 @@ void FlexGridWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void FlexGridWidget::mouseMoveEvent(QMouseEvent* /*event*/) {
-    // A drag picks nothing.
+    // Dragging the mouse does not select rows.
 }
 
 void FlexGridWidget::mouseReleaseEvent(QMouseEvent* event) {

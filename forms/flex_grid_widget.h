@@ -12,8 +12,8 @@
 namespace orvane {
 
 /// A table without headers and without editing in place. Its first column is fixed: the program can select a
-/// cell there, and wherever the user picks a row, it is the cell beside it that becomes the current one.
-/// The change handler is called directly, not by way of a signal, so that what it throws passes through.
+/// cell there, but a click or key of the user always selects the cell in the second column of the row. The
+/// change handler is called directly and not through a signal, so that its exceptions reach the caller.
 class FlexGridWidget : public QTableWidget, public MSFlexGrid {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ class FlexGridWidget : public QTableWidget, public MSFlexGrid {
     [[nodiscard]] std::int16_t Rows() const override { return static_cast<std::int16_t>(rowCount()); }
     void SetRows(std::int16_t rows) override;
     [[nodiscard]] std::int16_t Row() const override { return row_; }
-    /// A row or a column that the grid does not have is an OutOfRange failure that changes nothing.
+    /// Throws an OutOfRange failure, and changes nothing, if the grid has no such row or column.
     void SetRow(std::int16_t row) override { SelectCell(row, col_); }
     [[nodiscard]] std::int16_t Col() const override { return col_; }
     void SetCol(std::int16_t col) override { SelectCell(row_, col); }
@@ -32,9 +32,10 @@ class FlexGridWidget : public QTableWidget, public MSFlexGrid {
     [[nodiscard]] std::string TextMatrix(std::int16_t row, std::int16_t col) const override;
     void OnRowColChange(std::function<void()> handler) override { rowColChange_ = std::move(handler); }
 
-    /// The one handler of a click anywhere among or below the cells.
+    /// The only handler of a click on the cells or on the area below them.
     void OnClick(std::function<void()> handler) { click_ = std::move(handler); }
-    /// What the user does to the grid runs inside `guard`, which must not throw.
+    /// Events that the user causes run inside `guard`.
+    /// Requires: `guard` does not throw.
     void RunUserEventsIn(std::function<void(const std::function<void()>&)> guard) {
         guard_ = std::move(guard);
     }

@@ -17,7 +17,7 @@ void Place(QWidget& window, const QScreen& screen) {
     window.move(frame.topLeft());
 }
 
-/// Places a window at its first picture and is gone then.
+/// Positions a window when it is first exposed, then deletes itself.
 class SecondPlacing : public QObject {
   public:
     explicit SecondPlacing(QWidget& window) : QObject(window.windowHandle()), window_(window) {
@@ -50,7 +50,7 @@ void CentreOnScreen(QWidget& window, const QWidget& there) {
     if (screen == nullptr)
         return;
     Place(window, *screen);
-    window.winId(); // from here on there is a window for the window system
+    window.winId(); // creates the window handle that SecondPlacing watches
     new SecondPlacing(window);
 }
 

@@ -1,17 +1,17 @@
-// What the windows have in common: their font and their place on the screen.
+// Font and position that the windows have in common.
 #pragma once
 
 #include <QWidget>
 
 namespace orvane {
 
-/// The text size of the forms. Controls that are made later write in it too.
-/// Requires: `window` has no controls yet, since each would load the toolkit's own size first.
+/// Sets the text size of the forms. Controls that are created later inherit it.
+/// Requires: `window` has no controls yet; each would first load the toolkit's default font.
 void UseFormFont(QWidget& window);
 
-/// Puts `window`, frame included, in the middle of the screen of `there`. The frame is known only once the
-/// window is on the screen, so the window is placed at this call and again at its first picture.
-/// Requires: the window has its size and is not shown yet.
+/// Centres `window`, including its frame, on the screen of `there`. The size of the frame is known only when
+/// the window is on the screen, so the window is positioned by this call and again when it is first exposed.
+/// Requires: the window has its final size and is not shown yet.
 void CentreOnScreen(QWidget& window, const QWidget& there);
 
 } // namespace orvane

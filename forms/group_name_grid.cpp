@@ -52,7 +52,7 @@ void GroupNameEditor::TempTxt_Change() {
     GroupNameGrid_.SetRow(EditRow_);
     GroupNameGrid_.SetCol(EditCol_);
     GroupNameGrid_.SetText(TempTxt_.Text());
-    // The editor shows the name of group 1 now. The next key must replace it, not lengthen it.
+    // The editor now shows the name of group 1. It is selected so that the next key replaces it.
     if (!hadTarget)
         TempTxt_.SelectIfFocused();
 }

@@ -19,8 +19,8 @@ bool IsLineEnd(QChar character) {
            character == QChar::ParagraphSeparator;
 }
 
-/// Sees every text before the box takes it and cuts what the user inserts at its first line end, whether it
-/// was pasted, dropped or came from an input method.
+/// Checks every text before the box accepts it. Cuts what the user inserts at its first line end, whether it
+/// is pasted, dropped or comes from an input method.
 class InsertionCutter : public QValidator {
   public:
     InsertionCutter(const bool& programSetsText, QObject* parent)
@@ -34,7 +34,7 @@ class InsertionCutter : public QValidator {
     }
 
   private:
-    /// An insertion ends at the cursor and begins where the text departs from the last one accepted.
+    /// An insertion ends at the cursor and begins where the text first differs from the last accepted one.
     void CutInsertion(QString& text, int& cursor) const {
         const qsizetype behind = text.size() - cursor;
         const qsizetype kept = std::clamp<qsizetype>(accepted_.size() - behind, 0, cursor);
@@ -64,7 +64,7 @@ void LineBox::SetText(const std::string& text) {
 
 void LineBox::TakeFocus() {
     setFocus(Qt::OtherFocusReason);
-    // In a window that is not at the front the focus comes later, and then as the window's.
+    // In an inactive window the focus comes later, with a reason for which focusInEvent does not select.
     selectAll();
 }
 

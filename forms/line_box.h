@@ -1,4 +1,4 @@
-// A one-line text box without a limit of length.
+// A one-line text box without a length limit.
 #pragma once
 
 #include <QLineEdit>
@@ -7,10 +7,10 @@
 
 namespace orvane {
 
-/// Takes any characters but line ends: of a pasted text the first line counts. Its whole text is selected
-/// when it gets the focus, so that typing replaces the text; the mouse press that brings the focus neither
-/// places the caret nor starts a selection. The selection stays as it is when the window as a whole comes
-/// back to the front.
+/// Accepts all characters except line ends: only the first line of a pasted text is inserted. The whole text
+/// is selected when the box gets the focus, so that typing replaces it; the mouse press that gives the focus
+/// neither places the caret nor starts a selection. The selection does not change when the box gets the focus
+/// back because its window becomes active again.
 class LineBox : public QLineEdit {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ class LineBox : public QLineEdit {
     explicit LineBox(QWidget* parent = nullptr);
 
     [[nodiscard]] std::string Text() const { return text().toStdString(); }
-    /// Sets the text to the letter, whatever it holds. Fires textChanged if it differs.
+    /// Sets exactly this text, including any line ends. Emits textChanged if the text is a new one.
     void SetText(const std::string& text);
 
     /// Gives the box the focus and selects the whole text, also when it has the focus already.
@@ -31,8 +31,8 @@ class LineBox : public QLineEdit {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    bool settingText_ = false;      ///< a text set by the program passes unchanged
-    bool pressBringsFocus_ = false; ///< the button that brought the focus is still down
+    bool settingText_ = false;      ///< the program sets the text: nothing is cut
+    bool pressBringsFocus_ = false; ///< the button that gave the focus is still down
 };
 
 } // namespace orvane

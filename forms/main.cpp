@@ -26,7 +26,7 @@ namespace {
 
 using namespace orvane;
 
-/// The toolkit's application, and the parts of the desktop that it serves.
+/// The application object of the toolkit, and the services that need it.
 class Application : public QApplication {
   public:
     Application(int& count, char** arguments) : QApplication(count, arguments) {
@@ -38,7 +38,7 @@ class Application : public QApplication {
         ending_.BeginAt(signals_.Descriptor());
     }
 
-    /// The last resort: what escapes from the toolkit itself is reported too.
+    /// Reports an exception that no guard of a window has caught.
     bool notify(QObject* receiver, QEvent* event) override {
         try {
             return QApplication::notify(receiver, event);
@@ -67,7 +67,7 @@ class Application : public QApplication {
 } // namespace
 
 int main() {
-    // The toolkit has switches of its own; this program has no command line.
+    // The command line is not passed on: the program has no options, and the toolkit would read its own.
     char name[] = "orvane";
     char* arguments[] = {name, nullptr};
     int count = 1;
@@ -87,7 +87,7 @@ int main() {
     QtCommonDialog CMDialog(folder, application.Input(), application.Ending());
     QtCommonDialog outputDialog(folder, application.Input(), application.Ending());
     MainForm form(desktop, CMDialog, outputDialog);
-    // Inside the event loop, so that it ends also when the opening ends with a closed window.
+    // Runs inside the event loop, so that the loop ends even if the window is closed during Open.
     QMetaObject::invokeMethod(&form, &MainForm::Open, Qt::QueuedConnection);
     return QApplication::exec();
 }

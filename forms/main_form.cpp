@@ -30,7 +30,7 @@ namespace {
 constexpr int ClientWidth = 364;
 constexpr int ClientHeight = 185;
 
-// The items of the menus: the `Index` of their handlers.
+// Menu items: the values of `Index` in the handlers of the menus.
 constexpr std::int16_t LoadSettingsItem = 0;
 constexpr std::int16_t SaveSettingsItem = 1;
 constexpr std::int16_t ExitItem = 3;
@@ -41,8 +41,9 @@ constexpr std::int16_t AboutItem = 2;
 
 } // namespace
 
-/// The routines behind the window, joined to each other and to its controls. Each of them only keeps what it
-/// is joined to and uses none of it before the window opens, so that their order means nothing.
+/// The objects that do the work of the window, connected to each other and to its controls. Their
+/// constructors only store references, and none is used before the window opens. So the order of the members
+/// does not matter.
 struct MainForm::Parts {
     Ui::Form1& ui;
     EventGuard& guard;
@@ -127,14 +128,14 @@ void MainForm::OnCommand(Sender* sender, Signal signal, Handler handler) {
     connect(sender, signal, this, [this, handler] { Command(handler); });
 }
 
-/// Every event of this window runs its handler here.
+/// Runs the handler of an event, then closes the window if a close request arrived meanwhile.
 void MainForm::Handle(const std::function<void()>& handler) {
     guard_.Handle(handler);
     if (!guard_.IsHandling() && std::exchange(closeWhenDone_, false))
         close();
 }
 
-/// Runs a command unless one is running: assistive programs can trigger controls behind a modal window.
+/// Runs a command unless a handler is running: assistive programs can trigger controls behind a modal window.
 void MainForm::Command(const std::function<void()>& command) {
     if (guard_.IsHandling())
         parts_->outputItems.Check(parts_->settings.OutputOption);
@@ -192,7 +193,7 @@ void MainForm::mnuFile_Click(std::int16_t Index) {
     case SaveSettingsItem:
         return parts_->workflow.SaveSettingsAs();
     case ExitItem:
-        return static_cast<void>(close()); // when this handler has come to its end
+        return static_cast<void>(close()); // takes effect when this handler has returned
     default:
         break;
     }

@@ -1,4 +1,4 @@
-// The program's central window.
+// The main window of the program.
 #pragma once
 
 #include "forms/event_guard.h"
@@ -17,24 +17,24 @@ class Form1;
 
 namespace orvane {
 
-/// Takes the number of groups, their names and the sample size, and leads to every other function. It holds
-/// the one set of list settings, which lives as long as the window.
+/// The user enters the number of groups, their names and the sample size here, and reaches all other
+/// functions from here. The window owns the list settings, of which there is one object in the program.
 class MainForm : public QMainWindow {
     Q_OBJECT
 
   public:
-    /// `CMDialog` serves the prompts of lists and settings, `outputDialog` those of the output window.
+    /// `CMDialog` is the prompt for lists and settings, `outputDialog` that of the output window.
     MainForm(Platform& desktop, CommonDialog& CMDialog, CommonDialog& outputDialog);
     ~MainForm() override;
     MainForm(const MainForm&) = delete;
     MainForm& operator=(const MainForm&) = delete;
 
-    /// Shows the window and reads the settings of the last run; that they cannot be read is reported.
+    /// Shows the window and loads the settings of the last run. Reports it if they cannot be read.
     void Open();
 
   protected:
-    /// Closing writes the settings for the next run. A close that arrives while a handler is running is taken
-    /// when the handler has come to its end.
+    /// Saves the settings for the next run if SaveExitChk is checked. A close request that arrives while a
+    /// handler is running is carried out when the handler has returned.
     void closeEvent(QCloseEvent* event) override;
 
   private:
@@ -68,7 +68,7 @@ class MainForm : public QMainWindow {
     EventGuard guard_;
     std::unique_ptr<Ui::Form1> ui_;
     std::unique_ptr<Parts> parts_;
-    bool closeWhenDone_ = false; ///< a close waits for the handler that is running
+    bool closeWhenDone_ = false; ///< close when the running handler has returned
     bool unloaded_ = false;
 };
 

@@ -1,4 +1,4 @@
-// The controls of the main form as the routines of the other folders see them.
+// Adapters through which the other folders use the controls of the main form.
 #pragma once
 
 #include "engine/generation.h"
@@ -17,7 +17,7 @@
 
 namespace orvane {
 
-/// SampSizeTxt for the refusal of a sample size.
+/// SampSizeTxt, for the routines that refuse a sample size.
 class SampSizeTxtBox : public SampleSizeBox {
   public:
     SampSizeTxtBox(LineBox& box, EventGuard& guard) : box_(box), guard_(guard) {}
@@ -31,7 +31,7 @@ class SampSizeTxtBox : public SampleSizeBox {
     EventGuard& guard_;
 };
 
-/// TempTxt for the rules of the group names.
+/// TempTxt, for the rules of the group names.
 class TempTxtBox : public NameBox {
   public:
     TempTxtBox(LineBox& box, EventGuard& guard) : box_(box), guard_(guard) {}
@@ -52,13 +52,14 @@ class TempTxtBox : public NameBox {
     EventGuard& guard_;
 };
 
-/// What a load of settings moves.
+/// The controls that are changed when settings are loaded.
 class LoadedControls : public MainControls {
   public:
     LoadedControls(QScrollBar& nogHsb, LineBox& SampSizeTxt, EventGuard& guard)
         : nogHsb_(nogHsb), SampSizeTxt_(SampSizeTxt), guard_(guard) {}
 
-    /// The bar of the toolkit would take the nearest position it has in place of one that it has not.
+    /// Throws an OutOfRange failure for a position outside the bar's range. The toolkit's own bar would use
+    /// the nearest position instead.
     void SetNogHsb(std::int16_t position) override {
         if (position < nogHsb_.minimum() || position > nogHsb_.maximum())
             throw Failure("The number of groups cannot be " + std::to_string(position) +
@@ -82,7 +83,8 @@ class OutputItems : public OutputMenu {
   public:
     explicit OutputItems(const std::array<QAction*, 3>& items) : items_(items) {}
     [[nodiscard]] std::int16_t Count() const override { return static_cast<std::int16_t>(items_.size()); }
-    /// The toolkit marks an item before anyone is asked; this puts the marks back on the channel.
+    /// Checks the item of `channel` and no other. The toolkit checks an item as soon as it is chosen, even if
+    /// the command is then ignored.
     void Check(std::int32_t channel) {
         for (std::int16_t Index = 0; Index < Count(); ++Index)
             SetChecked(Index, Index == channel);

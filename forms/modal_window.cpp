@@ -10,10 +10,10 @@ namespace orvane {
 
 namespace {
 
-/// A window system may keep no picture of what a window covered. That has to be painted before work begins
-/// that leaves no time for it. Clicks and keys wait meanwhile.
+/// Repaints what the window covered. The window system may not have kept it, and the caller may start work
+/// during which nothing is painted. Clicks and keys stay in the queue.
 void PaintWhatWasCovered() {
-    constexpr int patience = 20; // milliseconds until the window system has asked for it
+    constexpr int patience = 20; // milliseconds for the window system to request it
     QEventLoop painting;
     QTimer end;
     QObject::connect(&end, &QTimer::timeout, &painting, &QEventLoop::quit);

@@ -1,18 +1,19 @@
-// What the windows that block all others have in common.
+// Base class of the modal windows.
 #pragma once
 
 #include <QDialog>
 
 namespace orvane {
 
-/// A window for one opening: built, shown and destroyed. It has no owner window.
+/// Each object is built, shown once and destroyed. It has no owner window.
 class ModalWindow : public QDialog {
   public:
     /// Shows the window in the middle of the screen and returns when it has closed.
     void ShowModal();
 
   protected:
-    /// `flags` say which buttons the frame has. The controls that follow write in the size of the forms.
+    /// `flags` determine the buttons of the frame. Sets the text size of the forms, which controls that are
+    /// created later inherit.
     explicit ModalWindow(Qt::WindowFlags flags);
 };
 

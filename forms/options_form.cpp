@@ -33,21 +33,21 @@ constexpr std::array<Tab, 4> Tabs{{{"Blocks", "Set Options for blocks"},
                                    {"Format", "Set Options for format"},
                                    {"Statistics", "Set statistics on generated sequence"}}};
 
-/// Moves a bar without its handler, so that the opening can run the handler once in any case: also when the
-/// bar stands there already, and not when the bar's limit pushes it.
+/// Moves a bar without running its handler. Form_Load calls the handler itself, exactly once, whether or not
+/// the position has changed.
 void MoveQuietly(QScrollBar& bar, int position) {
     const QSignalBlocker quiet(bar);
     bar.setValue(position);
 }
 
-/// The window of one opening.
+/// The window itself, built for each opening.
 class OptionsDialog : public ModalWindow {
   public:
     OptionsDialog(ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
                   Platform& desktop);
 
     void Form_Load();
-    /// Esc and the frame.
+    /// Esc and the close button of the frame.
     void reject() override {
         Press([this] { buttons_.cmdCancel_Click(); });
     }
@@ -89,7 +89,7 @@ class OptionsDialog : public ModalWindow {
     OptionGroup BlkOpt_;
     OptionGroup AlphaNumOpt_;
     OptionGroup SeqRandOpt_;
-    bool Loading_ = false; ///< the opening itself moves the controls
+    bool Loading_ = false; ///< Form_Load is setting the controls
 };
 
 OptionsDialog::OptionsDialog(ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
@@ -105,7 +105,7 @@ OptionsDialog::OptionsDialog(ListSettings& settings, ListResults& results, const
     AlphaNumOpt_ = {ui_.AlphaNumOpt_0, ui_.AlphaNumOpt_1, ui_.AlphaNumOpt_2};
     SeqRandOpt_ = {ui_.SeqRandOpt_0, ui_.SeqRandOpt_1};
     ConnectControls();
-    // The window sees keys before its controls.
+    // The window handles keys before its controls do.
     installEventFilter(this);
     for (QWidget* control : findChildren<QWidget*>())
         control->installEventFilter(this);
@@ -147,14 +147,15 @@ void OptionsDialog::OnSelected(const OptionGroup& group, Handler handler) {
     }
 }
 
-/// Runs what a button does, unless the window has closed: the second half of a double click comes too late.
+/// Runs the handler of a button. A press after the window has closed, such as the second press of a double
+/// click, is ignored.
 template <class Handler>
 void OptionsDialog::Press(Handler handler) {
     if (isVisible())
         guard_.Handle(handler);
 }
 
-/// As after a click, the selected option alone is a stop of the Tab key.
+/// Selects an option. As after a click, the Tab key then stops only at the selected option.
 void OptionsDialog::Select(const OptionGroup& group, std::int32_t option) {
     QRadioButton* selected = group.at(static_cast<std::size_t>(option));
     for (QRadioButton* button : group)
@@ -165,7 +166,7 @@ void OptionsDialog::Select(const OptionGroup& group, std::int32_t option) {
 void OptionsDialog::Form_Load() {
     Loading_ = true;
     guard_.Calling([&] { ui_.txtLevel->SetText(SevenDigits(settings_.SigLevel)); });
-    txtLevel_Change(); // also where the box showed this text already
+    txtLevel_Change(); // also when the text has not changed
     buttons_.TakeSnapshot();
     BringOptionsIntoRange(settings_);
     guard_.Calling([&] { ui_.chkPerformRuns->setChecked(settings_.PerformRuns); });
@@ -173,7 +174,7 @@ void OptionsDialog::Form_Load() {
     Select(SeqRandOpt_, settings_.CodeSeqRandom);
     Select(BlkOpt_, settings_.prBlockOption);
     {
-        const QSignalBlocker quiet(ui_.LenHsb); // a bar that its limit pushes would overwrite CodeLength
+        const QSignalBlocker quiet(ui_.LenHsb); // its handler would overwrite CodeLength
         ui_.LenHsb->setMinimum(LowestCodeLength(settings_.SampleSize));
     }
     MoveQuietly(*ui_.LenHsb, settings_.CodeLength);
@@ -199,8 +200,8 @@ bool OptionsDialog::eventFilter(QObject* watched, QEvent* event) {
     return taken;
 }
 
-/// An arrow key selects the option beside and then puts the focus on it, so that the option's field has to
-/// have it back. True when `control` was a block option; the key has then reached it.
+/// Passes a key to a block option. An arrow key selects the next option and gives it the focus, so that the
+/// focus must then be moved to the option's field. Returns whether `control` is a block option.
 bool OptionsDialog::BlkOptTakesKey(QObject& control, QEvent& event) {
     if (std::find(BlkOpt_.begin(), BlkOpt_.end(), &control) == BlkOpt_.end())
         return false;
@@ -211,7 +212,7 @@ bool OptionsDialog::BlkOptTakesKey(QObject& control, QEvent& event) {
     return true;
 }
 
-/// True when the key has done its work and passes on no further.
+/// Returns whether the key has been handled and must not be passed on.
 bool OptionsDialog::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
     if (key != Qt::Key_Tab || modifiers != Qt::ControlModifier)
         return false;
@@ -228,7 +229,7 @@ void OptionsDialog::BlkOpt_Click(std::int16_t Index) {
         FocusBlockField();
 }
 
-/// Options without a field leave the focus where it is.
+/// Does not move the focus if the selected option has no field.
 void OptionsDialog::FocusBlockField() {
     if (settings_.prBlockOption == EqualSize)
         controls_.FocusEqBlockSizeTxt();

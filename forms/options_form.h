@@ -1,4 +1,4 @@
-// The window of the list's options. It edits the option values in place; Cancel goes back to how they were.
+// The options window. It changes the option values directly; Cancel restores the values from the opening.
 #pragma once
 
 #include "engine/generation.h"
@@ -13,8 +13,8 @@ class OptionsForm : public OptionsWindow {
     OptionsForm(ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames, Platform& desktop)
         : settings_(settings), results_(results), groupNames_(groupNames), desktop_(desktop) {}
 
-    /// SampleSize must be above 0. Throws what building the window throws; nothing is on the screen then.
-    /// Failures while it is open are reported by the window itself.
+    /// Throws the failures of building the window, before it is shown. Failures while it is open are reported
+    /// by the window itself. Requires: SampleSize above 0.
     void ShowModal() override;
 
   private:

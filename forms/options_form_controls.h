@@ -1,4 +1,4 @@
-// The controls of the options window as its buttons see them.
+// Adapter through which the buttons of the options window use its controls.
 #pragma once
 
 #include "engine/numbers.h"

@@ -15,7 +15,7 @@ namespace orvane {
 
 namespace {
 
-/// Gathers the lines, since a text box lays itself out anew for each one that it is given.
+/// Collects the lines, because a text box recomputes its layout for each line added.
 class GatheredText : public TextBox {
   public:
     void AppendLine(const std::string& text) override { text_.append(text).push_back('\n'); }
@@ -25,7 +25,7 @@ class GatheredText : public TextBox {
     std::string text_;
 };
 
-/// The window of one opening.
+/// The window itself, built for each opening.
 class ListWindow : public ModalWindow {
   public:
     ListWindow(ShownFile& file, Platform& desktop);
@@ -64,7 +64,7 @@ void ListWindow::Form_Load() {
     ui_.OutputTxt->setPlainText(ToQString(text.Text()));
 }
 
-/// Esc closes a dialog of the toolkit, not this window.
+/// Esc does not close this window, unlike the toolkit's other dialogs.
 void ListWindow::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel))
         event->ignore();
@@ -75,7 +75,7 @@ void ListWindow::keyPressEvent(QKeyEvent* event) {
 } // namespace
 
 void OutputForm::ShowModal() {
-    // Whatever becomes of the window, its temporary file goes.
+    // Deletes the temporary file also when an exception is thrown.
     const struct Unload {
         ShownFile& file;
         ~Unload() { file.DeleteIfTemporary(); }

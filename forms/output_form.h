@@ -1,4 +1,4 @@
-// The window that shows a list: made for it by the report, or saved earlier.
+// The window that shows a list: a new one from the window report, or a saved file.
 #pragma once
 
 #include "output/shown_file.h"
@@ -12,14 +12,14 @@ namespace orvane {
 
 class OutputForm : public OutputWindow {
   public:
-    /// `CMDialog` is this window's own prompt.
+    /// `CMDialog` is used by this window only.
     OutputForm(Platform& desktop, CommonDialog& CMDialog) : desktop_(desktop), file_(desktop, CMDialog) {}
 
     void OutputFileName(const std::string& strOutputFileName, bool temporary) override {
         file_.OutputFileName(strOutputFileName, temporary);
     }
-    /// A file that cannot be read is reported, and the window opens with the lines read by then. A temporary
-    /// file is gone on return.
+    /// If the file cannot be read, this is reported and the window opens with the lines read so far. A
+    /// temporary file is deleted before the return.
     void ShowModal() override;
 
   private:

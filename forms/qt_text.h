@@ -1,4 +1,4 @@
-// Texts on their way between the program, where they are UTF-8, and the toolkit.
+// Conversion of the program's UTF-8 texts to texts of the toolkit.
 #pragma once
 
 #include <QString>
@@ -8,8 +8,8 @@
 
 namespace orvane {
 
-/// Every character of `text`. QString's own conversion drops a byte order mark at the start, so that a name
-/// would change on its way from the grid to the editor.
+/// Converts every character of `text`. QString's own conversion drops a byte order mark at the start, so that
+/// a name would change when it is loaded from the grid into the editor.
 inline QString ToQString(std::string_view text) {
     QStringDecoder decode(QStringConverter::Utf8,
                           QStringConverter::Flag::Stateless | QStringConverter::Flag::ConvertInitialBom);

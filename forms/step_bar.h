@@ -1,4 +1,4 @@
-// A horizontal scroll bar whose keys go the way they point.
+// A horizontal scroll bar whose value increases with Right and decreases with Left.
 #pragma once
 
 #include <QKeyEvent>
@@ -6,8 +6,8 @@
 
 namespace orvane {
 
-/// The toolkit's bar steps down at Right and up at Left. Here they go with Down and Up, and with the arrows
-/// and the track.
+/// In the toolkit's bar Right decreases the value and Left increases it. Here Right and Left work like Down
+/// and Up, and like the arrow buttons and the track.
 class StepBar : public QScrollBar {
   public:
     explicit StepBar(QWidget* parent = nullptr) : QScrollBar(Qt::Horizontal, parent) {}

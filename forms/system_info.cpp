@@ -50,7 +50,7 @@ void StartSysInfo(Platform& desktop) {
         if (!path.empty())
             return desktop.Shell.StartProgram(path);
     } catch (...) {
-        // Whatever failed, the user is told the same as when there is no tool.
+        // A failure gives the same message as a missing tool.
     }
     desktop.Messages.Show("System Information Is Unavailable At This Time");
 }

@@ -5,9 +5,8 @@ class QWidget;
 
 namespace orvane {
 
-/// The window that the user works in: the modal one, else the active one. In the moment in which none is
-/// active, such as right behind another box or while another program is in front, one that is on the screen.
-/// Null when there is none.
+/// The modal window if there is one, else the active window. If no window is active, as just after another
+/// box has closed or while another program is in front, any visible window. Null if there is none.
 QWidget* OwnerWindow();
 
 } // namespace orvane

@@ -1,4 +1,4 @@
-// The filter of a file prompt, taken apart.
+// Reads the filter text of a file prompt.
 #pragma once
 
 #include <QString>
@@ -8,14 +8,15 @@
 
 namespace orvane {
 
-/// The entries of a filter of descriptions and patterns in turn, "|" between all fields. A description
-/// without a pattern behind it is no entry.
+/// The entries of a filter. A filter is a list of fields with "|" between them: the description and the
+/// patterns of each entry in turn. A last description without patterns is ignored.
 class PromptFilter {
   public:
-    /// `defaultExtension` is that of an entry whose pattern names none.
+    /// `defaultExtension` is used for an entry whose patterns give no extension.
     PromptFilter(const std::string& filter, const std::string& defaultExtension);
 
-    /// Each entry as the toolkit wants it: the description with the patterns in brackets at its end.
+    /// Each entry in the form that the toolkit expects: the description with the patterns in brackets at its
+    /// end.
     [[nodiscard]] const QStringList& Entries() const { return entries_; }
     /// The extension, without a dot, of one of the entries; the default one for any other text.
     [[nodiscard]] QString ExtensionOf(const QString& entry) const;

@@ -77,7 +77,7 @@ GlobalHandle QtClipboard::SetClipboardData(std::uint32_t format, GlobalHandle bl
     const std::string_view text(bytes.data(), bytes.size());
     const QString content = QString::fromStdString(page_.Decode(text.substr(0, text.find('\0'))));
     QGuiApplication::clipboard()->setText(content);
-    // The desktop may have refused it.
+    // The desktop may have rejected the text.
     if (QGuiApplication::clipboard()->text() != content)
         return 0;
     blocks_.erase(found);

@@ -1,4 +1,4 @@
-// The clipboard of the toolkit behind blocks of memory.
+// The desktop's clipboard, filled from blocks of memory.
 #pragma once
 
 #include "platform/clipboard.h"
@@ -12,20 +12,20 @@
 
 namespace orvane {
 
-/// The bytes of a block are characters of the code page; the clipboard of the desktop gets them as text.
+/// The bytes of a block are text in the code page; the desktop's clipboard gets the decoded text.
 class QtClipboard : public Clipboard {
   public:
     explicit QtClipboard(const CodePage& page) : page_(page) {}
 
     GlobalHandle GlobalAlloc(std::uint32_t flags, std::size_t bytes) override;
     char* GlobalLock(GlobalHandle block) override;
-    /// Never writes behind the end of the block that holds `address`.
+    /// Never writes beyond the end of the block that contains `address`.
     void lstrcpy(char* address, const std::string& text) override;
     std::int32_t GlobalUnlock(GlobalHandle block) override;
     void GlobalFree(GlobalHandle block) override;
     std::int32_t OpenClipboard() override;
     void EmptyClipboard() override;
-    /// The block is freed with the take-over; its text counts up to the terminator.
+    /// On success the block is freed. The text of a block ends at the first zero byte.
     GlobalHandle SetClipboardData(std::uint32_t format, GlobalHandle block) override;
     std::int32_t CloseClipboard() override;
 

@@ -29,8 +29,7 @@ bool IsNative(const QFileDialog& dialog) {
     return dialog.findChild<QLineEdit*>() == nullptr;
 }
 
-/// The toolkit's own prompt cuts sizes, kinds and dates off, while its column of names has more than it
-/// needs.
+/// The toolkit's own prompt cuts off sizes, types and dates, although its name column is wider than needed.
 void ShowColumnsInFull(QFileDialog& dialog) {
     const auto* const files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
     if (files == nullptr)
@@ -42,8 +41,8 @@ void ShowColumnsInFull(QFileDialog& dialog) {
                                      column == 0 ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
 }
 
-/// The toolkit's own open prompt switches its button off for a file that the selected entry does not show.
-/// Here the button is on for every file that exists.
+/// The toolkit's own open prompt disables its button for a file that the selected filter entry hides. Here
+/// the button is enabled for every existing file.
 class OpenButtonRule : public QObject {
   public:
     explicit OpenButtonRule(QFileDialog& dialog) : QObject(&dialog), dialog_(dialog) {
@@ -71,7 +70,7 @@ class OpenButtonRule : public QObject {
     QPushButton* open_ = nullptr;
 };
 
-/// The path chosen, before it got the extension of the selected entry.
+/// The chosen path without the extension that the prompt adds.
 QString TypedPath(QFileDialog& dialog) {
     const QString extension = dialog.defaultSuffix();
     dialog.setDefaultSuffix({});
@@ -111,8 +110,8 @@ void QtCommonDialog::Show(Kind kind) {
     QFileDialog dialog(OwnerWindow(), QString::fromStdString(DialogTitle));
     dialog.setAcceptMode(kind == Kind::Save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(kind == Kind::Save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    // In front of its own prompt the toolkit's question would take the focus away from it for good where no
-    // window manager gives it back.
+    // The toolkit's own question would take the focus from the prompt, which does not get it back without a
+    // window manager. IsToBeTaken asks instead.
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !AsksToOverwrite(kind) || !IsNative(dialog));
     dialog.resize(PromptSize);
     ShowColumnsInFull(dialog);
@@ -157,8 +156,7 @@ bool QtCommonDialog::AsksToOverwrite(Kind kind) const {
 bool QtCommonDialog::IsToBeTaken(QFileDialog& dialog, const QString& path, Kind kind) const {
     if (path.isEmpty())
         throw Failure("The prompt gave no file name.", failure_number::InvalidArgument, Source);
-    // The desktop's own prompt has asked about the name as it was typed, not about the one with its
-    // extension.
+    // The desktop's own prompt asks about the name as typed, before the extension is added.
     const bool asked = !dialog.testOption(QFileDialog::DontConfirmOverwrite) && TypedPath(dialog) == path;
     if (!AsksToOverwrite(kind) || asked || !QFileInfo::exists(path))
         return true;

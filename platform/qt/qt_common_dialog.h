@@ -1,4 +1,4 @@
-// File prompts of the toolkit, which shows the desktop's own where there is one.
+// File prompts of the toolkit, which shows the desktop's own prompt if there is one.
 #pragma once
 
 #include "platform/common_dialog.h"
@@ -11,17 +11,18 @@ class QFileDialog;
 
 namespace orvane {
 
-/// The folder in which the next prompt starts: the user's documents at first, then the one in which the last
-/// prompt ended. All prompts of the program share one.
+/// The folder in which the next prompt starts: at first the user's documents folder, or the home folder if
+/// there is none; later the folder in which the last prompt was closed. All prompts of the program share one
+/// object.
 struct PromptFolder {
     PromptFolder();
     QString Path;
 };
 
-/// The first filter entry is selected. A save prompt gives a name typed without an extension that of the
-/// selected entry and asks the overwrite question about the name with it; an open prompt takes the name of an
-/// existing file as it is, whether or not the selected entry shows it. While the program is ending every
-/// prompt counts as cancelled.
+/// The first filter entry is selected when a prompt opens. A save prompt adds the extension of the selected
+/// entry to a name typed without one, and asks the overwrite question about the resulting name. An open
+/// prompt accepts the name of any existing file as typed, also of one that the selected entry hides. While
+/// the program is ending, every prompt counts as cancelled.
 class QtCommonDialog : public CommonDialog {
   public:
     QtCommonDialog(PromptFolder& folder, QtInputDrain& input, const QtEnding& ending)
@@ -34,7 +35,7 @@ class QtCommonDialog : public CommonDialog {
 
     void Show(Kind kind);
     void Offer(QFileDialog& dialog) const;
-    /// Whether the path that an accepted prompt gives can be taken; if not, the prompt has to come back.
+    /// Whether the path of an accepted prompt can be used; if not, the prompt must be shown again.
     [[nodiscard]] bool IsToBeTaken(QFileDialog& dialog, const QString& path, Kind kind) const;
     [[nodiscard]] bool AsksToOverwrite(Kind kind) const;
 

@@ -10,7 +10,7 @@
 namespace orvane {
 
 QtEnding::QtEnding() {
-    // The session may be over right behind this call.
+    // A direct connection, because the session may end as soon as this handler returns.
     connect(qApp, &QGuiApplication::commitDataRequest, this, &QtEnding::Begin, Qt::DirectConnection);
     connect(&timer_, &QTimer::timeout, this, &QtEnding::CloseFront);
 }
@@ -31,8 +31,8 @@ void QtEnding::Begin() {
     CloseFront();
 }
 
-/// A window that closes returns to the code that opened it, which may open the next. So it is one at a time,
-/// and again and again.
+/// Closes one modal window at a time, and is called again by the timer: the code that opened a window
+/// continues when it closes, and may open another one.
 void QtEnding::CloseFront() {
     if (QWidget* const menu = QApplication::activePopupWidget()) {
         menu->close();

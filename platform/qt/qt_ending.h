@@ -1,4 +1,4 @@
-// The end of the program when it comes from outside: a signal, or the end of the desktop's session.
+// Ends the program on a request from outside: a signal, or the end of the desktop's session.
 #pragma once
 
 #include <QObject>
@@ -6,16 +6,16 @@
 
 namespace orvane {
 
-/// From Begin on, whatever is open closes as by its frame, the front one first, until the last window has
-/// closed and the program ends. Work that is running comes to its end before. What opens meanwhile closes
-/// too; boxes and prompts ask IsEnding and do not open at all, so that nothing waits for a user who may have
-/// gone.
+/// After Begin all windows are closed as by the close button of their frames, the front one first, until the
+/// last one has closed and the program ends. Work in progress is finished first. Windows that open meanwhile
+/// are closed too. Message boxes and prompts check IsEnding and do not open, because the user may not be
+/// there to answer them.
 class QtEnding : public QObject {
   public:
-    /// Begins at the end of the desktop's session.
+    /// Calls Begin at the end of the desktop's session.
     /// Requires: the application object exists.
     QtEnding();
-    /// Begins also as soon as `descriptor` has something to read.
+    /// Also calls Begin as soon as `descriptor` has something to read.
     /// Requires: `descriptor` stays open as long as this object lives.
     void BeginAt(int descriptor);
 

@@ -1,4 +1,4 @@
-// The focus can be seen at every control.
+// A visible mark on the control that has the focus.
 #pragma once
 
 #include <QFocusFrame>
@@ -9,8 +9,8 @@ class QWidget;
 
 namespace orvane {
 
-/// While it lives, the control with the focus has a frame around it, but for text boxes, which show a caret.
-/// Most desktops' styles show no focus at bars, tables and buttons.
+/// While this object exists, the control with the focus has a frame around it, except text boxes, which show
+/// a caret, and menus. Most desktop styles do not show the focus of scroll bars, tables and buttons.
 class QtFocusMark : public QObject {
   public:
     /// Requires: the application object exists.
@@ -22,7 +22,7 @@ class QtFocusMark : public QObject {
   private:
     void Mark(QWidget* control);
 
-    QPointer<QFocusFrame> frame_; ///< goes with the window that it is in
+    QPointer<QFocusFrame> frame_; ///< deleted together with its window
 };
 
 } // namespace orvane

@@ -43,8 +43,8 @@ bool IsUserInput(QEvent::Type type) {
 } // namespace
 
 void QtInputDrain::DropPendingInput() {
-    constexpr int patience = 500; // milliseconds: a key that is held down gives no end of events
-    // In an open menu the keys that follow belong to the menu.
+    constexpr int patience = 500; // milliseconds; a key that is held down sends events without end
+    // While a menu is open, pending keys belong to the menu.
     if (!busy_ || dropping_ || QApplication::activePopupWidget() != nullptr)
         return;
     dropping_ = true;
@@ -56,7 +56,7 @@ void QtInputDrain::DropPendingInput() {
 }
 
 bool QtInputDrain::eventFilter(QObject* /*watched*/, QEvent* event) {
-    // A box that opens meanwhile, to report a failure, waits for an answer.
+    // A message box that opened meanwhile, to report a failure, needs an answer.
     const bool boxOpened = QApplication::activeModalWidget() != modal_;
     if (boxOpened || !IsUserInput(event->type()))
         return false;

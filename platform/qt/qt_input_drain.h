@@ -1,20 +1,20 @@
-// What the user did while the program was busy is not meant for what comes then, and is dropped.
+// Drops the clicks and keys that the user made while the program was busy.
 #pragma once
 
 #include <QObject>
 
 namespace orvane {
 
-/// Shared by the pointer, which says when the program is busy, and by all that waits for the user.
+/// Shared by the mouse pointer, which sets the busy state, and by the message boxes and prompts.
 class QtInputDrain : private QObject {
   public:
     [[nodiscard]] bool IsBusy() const { return busy_; }
     void SetBusy(bool busy) { busy_ = busy; }
 
-    /// Drops the clicks and keys that wait in the window system and in the program; paints what has to be
-    /// painted. A request to close a window reaches the window. A box that opens meanwhile gets its input.
-    /// Does nothing unless the program is busy, nothing while a menu is open, and nothing when it is called
-    /// from inside itself.
+    /// Processes the pending events of the window system and of the program, but drops clicks and keys. So
+    /// windows are painted, and a request to close a window reaches it. A message box that opens meanwhile
+    /// gets its input. Does nothing if the program is not busy, if a menu is open, or if it is already
+    /// running.
     void DropPendingInput();
 
   private:
@@ -22,7 +22,7 @@ class QtInputDrain : private QObject {
 
     bool busy_ = false;
     bool dropping_ = false;
-    const QObject* modal_ = nullptr; ///< the box or window that was open when the dropping began
+    const QObject* modal_ = nullptr; ///< the modal window at the start of DropPendingInput
 };
 
 } // namespace orvane

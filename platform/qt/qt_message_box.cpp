@@ -32,7 +32,7 @@ QString WithoutMiddleLines(const QString& text) {
 QString WithoutMiddleCharacters(const QString& text) {
     if (text.size() <= MostCharacters)
         return text;
-    // No character of two units is cut in half.
+    // Do not split a surrogate pair.
     qsizetype first = MostCharacters / 2;
     qsizetype last = text.size() - MostCharacters / 2;
     first -= text.at(first).isLowSurrogate() ? 1 : 0;
@@ -40,7 +40,7 @@ QString WithoutMiddleCharacters(const QString& text) {
     return text.left(first) + Gap() + text.mid(last);
 }
 
-/// `text` with places at which a word that is too long for a line can be broken.
+/// Inserts zero-width spaces into words that are too long for a line, so that they can be wrapped.
 QString WithBreaks(QString text) {
     static const QRegularExpression tooLong(QStringLiteral("(\\S{%1})(?=\\S)").arg(LongestWord));
     return text.replace(tooLong, QStringLiteral("\\1\u200B"));

@@ -11,8 +11,8 @@
 
 namespace orvane {
 
-/// The box in front of everything else; its object name is "MessageBox". A text too long for a screen loses
-/// its middle. While the program is ending no box waits for an answer: its text goes to the standard error.
+/// A modal box with the object name "MessageBox". The middle of a text that is too long for the screen is
+/// left out. While the program is ending no box is shown; the text is written to the standard error instead.
 class QtMessageBox : public MessageBox {
   public:
     QtMessageBox(QtInputDrain& input, const QtEnding& ending) : input_(input), ending_(ending) {}

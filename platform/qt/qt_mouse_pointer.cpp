@@ -6,7 +6,7 @@
 namespace orvane {
 
 void QtMousePointer::ShowBusy() {
-    // The toolkit keeps a stack of pointers; here it never holds more than one.
+    // The toolkit keeps a stack of override pointers; at most one is put on it.
     if (input_.IsBusy())
         return;
     input_.SetBusy(true);

@@ -1,4 +1,4 @@
-// The pointer of the whole program.
+// The mouse pointer of the whole program.
 #pragma once
 
 #include "platform/mouse_pointer.h"

@@ -1,4 +1,4 @@
-// A double click belongs to one window.
+// Keeps a double click within one window.
 #pragma once
 
 #include <QObject>
@@ -7,17 +7,18 @@
 
 namespace orvane {
 
-/// While it lives, the second press of a double click reaches no other window than the first one did: when
-/// the first press closes a window, the second one must not press what lay beneath.
+/// While this object exists, the second press of a double click is dropped if it is in another window than
+/// the first. So when the first press closes a window, the second one does not press a control of the window
+/// below.
 class QtSecondPress : public QObject {
   public:
-    /// The application object must exist.
+    /// Requires: the application object exists.
     QtSecondPress();
 
   private:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    QPointer<const QWidget> first_; ///< the window of the latest press, null when it is gone
+    QPointer<const QWidget> first_; ///< the window of the latest press, null if it was deleted
 };
 
 } // namespace orvane
