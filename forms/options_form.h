@@ -14,7 +14,8 @@ class OptionsForm : public OptionsWindow {
         : settings_(settings), results_(results), groupNames_(groupNames), desktop_(desktop) {}
 
     /// Throws the failures of building the window, before it is shown. Failures while it is open are reported
-    /// by the window itself. Requires: SampleSize above 0.
+    /// by the window itself.
+    /// Requires: SampleSize above 0.
     void ShowModal() override;
 
   private:

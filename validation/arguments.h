@@ -1,4 +1,4 @@
-// What a validation is asked to do.
+// The command line of the validation.
 #pragma once
 
 #include "validation/identity.h"
@@ -19,7 +19,7 @@ struct Arguments {
 inline constexpr const char* Usage =
     "validation APP_FOLDER OUTPUT_FOLDER [--quick] [--commit NAME] [--tree STATE] [--built PROGRAM]";
 
-/// Throws std::runtime_error for arguments that are none of Usage.
+/// Throws std::runtime_error for arguments that Usage does not allow.
 Arguments ReadArguments(const std::vector<std::string>& words);
 
 } // namespace orvane::validation

@@ -17,12 +17,12 @@
 namespace orvane::validation {
 namespace {
 
-/// The chance that a right program fails one comparison of a simulated share. There are twelve.
+/// The probability that a correct program fails one comparison of a simulated share. There are twelve.
 constexpr double FalseAlarmOfAShare = 3e-7;
 
 constexpr int ShareDecimals = 4;
 
-/// A share of right guesses over many lists, beside the exact one.
+/// The share of right guesses in many lists, and its comparison with the exact share.
 struct SimulatedShare {
     double Share = 0;
     double StandardError = 0;
@@ -31,8 +31,8 @@ struct SimulatedShare {
 
 using ListMaker = std::function<std::vector<int>()>;
 
-/// Each list gives one difference between right guesses and those expected of so many subjects. The
-/// differences are independent and have the mean 0 when the share is right.
+/// Each list gives one difference between its right guesses and the number expected for its length. The
+/// differences are independent and have the mean 0 if the program is correct.
 SimulatedShare Simulate(const ListMaker& makeList, int lists, int groups, double exactShare) {
     double right = 0;
     double subjects = 0;
@@ -50,7 +50,8 @@ SimulatedShare Simulate(const ListMaker& makeList, int lists, int groups, double
     const double mean = sum / lists;
     const double deviation = std::sqrt(std::max(squares / lists - mean * mean, 0.0) * lists);
     SimulatedShare result{right / subjects, deviation / subjects, 0};
-    // In some plans every list is guessed equally often. What is then left of the sum is rounding.
+    // In some plans every list has the same number of right guesses. A sum other than 0 is then a rounding
+    // error.
     const double rounding = 1e-9 * subjects;
     if (deviation > rounding)
         result.PValue =
@@ -73,30 +74,30 @@ const Row ShareHead{"Block option", "Right guesses, exact", "Right guesses, prog
                     "P value",      "Certain at block ends"};
 
 void ExplainStrategy(Evidence& evidence, int groups, int lists) {
-    evidence.Paragraph("The investigator is not blind to the treatment, has seen every assignment so far, "
-                       "counts the groups over the "
-                       "whole list and names the group that is behind; where several are equally far behind, "
-                       "any one of them. "
-                       "Block ends are not known to this investigator. Every block of these options is even, "
-                       "so the counts are level "
-                       "at each block's start. The last column is for one who does know the ends: the share "
-                       "of assignments that "
-                       "then follow with certainty from those before.");
     evidence.Paragraph(
-        "Without any knowledge the share of right guesses is " + Fixed(1.0 / groups, ShareDecimals) +
-        ". The exact share is the expected number of right "
-        "guesses per subject. The program's share is that of " +
-        Grouped(lists) + " lists for each option, each for a sample size of " +
-        std::to_string(GuessingSampleSize) +
-        ". Statistic: the mean difference between right guesses and those expected, divided by its "
-        "standard error, normal. Accepted above P = " +
-        Significant(FalseAlarmOfAShare, 1) + ", which is the chance of a false alarm of each comparison.");
+        "The investigator is not blinded, has seen every assignment so far, counts the subjects of each "
+        "group over the whole list, and names the group with the fewest subjects; if several groups have the "
+        "fewest, any one of them. This investigator does not know where a block ends. Every block of these "
+        "options contains all groups equally often, so the counts are equal at the start of each block. The "
+        "last column is for an investigator who knows the ends of the blocks: it gives the share of "
+        "assignments that follow with certainty from the earlier ones.");
+    evidence.Paragraph("Without any knowledge, the share of right guesses is " +
+                       Fixed(1.0 / groups, ShareDecimals) +
+                       ". The exact share is the expected number of right "
+                       "guesses per subject. The program's share is the share in " +
+                       Grouped(lists) + " lists for each option, each with a sample size of " +
+                       std::to_string(GuessingSampleSize) +
+                       ". Statistic: the mean difference between observed and expected right guesses, "
+                       "divided by its standard error; it has a normal distribution. Accepted above P = " +
+                       Significant(FalseAlarmOfAShare, 1) +
+                       ", which is the probability of a false alarm in each comparison.");
 }
 
 void CheckShares(Record& record, const Scale& scale, const std::string& identifier, int groups) {
     record.Run(
         identifier, "CON-5",
-        "The program's lists are guessed as often as calculated, " + std::to_string(groups) + " groups",
+        "The share of right guesses in the program's lists is the calculated one, " + std::to_string(groups) +
+            " groups",
         Chapter::Concealment, [&](Evidence& evidence) {
             LinuxEntropy entropy;
             RandomSource random(entropy);
@@ -119,11 +120,12 @@ void CheckShares(Record& record, const Scale& scale, const std::string& identifi
             evidence.Plot(
                 BarChart("Share of right guesses by block option, " + std::to_string(groups) + " groups",
                          "Block option", "Share of right guesses", bars),
-                "Bars: lists of the program. Heavy lines: exact. Lower is harder to guess.");
+                "Bars: the program's lists. Heavy lines: exact share. The lower the share, the harder the "
+                "list is to guess.");
         });
 }
 
-/// Right guesses on average over all arrangements of a block, played one by one.
+/// The average number of right guesses over all arrangements of a block.
 double PlayedOverAll(std::vector<int> block, int groups) {
     std::sort(block.begin(), block.end());
     double right = 0;
@@ -136,26 +138,27 @@ double PlayedOverAll(std::vector<int> block, int groups) {
 }
 
 void CheckCalculation(Record& record) {
-    record.Run(
-        "CON-5.1", "CON-5", "The calculation of right guesses agrees with the formula and with a full count",
-        Chapter::Concealment, [](Evidence& evidence) {
-            const std::string formula = "Blackwell and Hodges, Annals of Mathematical Statistics 28 (1957)";
-            constexpr int decimals = 9;
-            for (const int size : {2, 4, 6, 12, 32, 96})
-                evidence.Compare("Right guesses in a block of " + std::to_string(size) + ", 2 groups",
-                                 Fixed(RightByFormula(size), decimals),
-                                 Fixed(ExpectedOfBlock(size, 2).Right, decimals), formula);
-            const std::string count = "the strategy played against every arrangement";
-            evidence.Compare("Right guesses in a block of 4, 2 groups",
-                             Fixed(PlayedOverAll({0, 0, 1, 1}, 2), decimals),
-                             Fixed(ExpectedOfBlock(4, 2).Right, decimals), count);
-            evidence.Compare("Right guesses in a block of 9, 3 groups",
-                             Fixed(PlayedOverAll({0, 0, 0, 1, 1, 1, 2, 2, 2}, 3), decimals),
-                             Fixed(ExpectedOfBlock(9, 3).Right, decimals), count);
-            evidence.Compare("Right guesses in a block of 8, 4 groups",
-                             Fixed(PlayedOverAll({0, 0, 1, 1, 2, 2, 3, 3}, 4), decimals),
-                             Fixed(ExpectedOfBlock(8, 4).Right, decimals), count);
-        });
+    record.Run("CON-5.1", "CON-5",
+               "The calculation of right guesses agrees with the formula and with a full enumeration",
+               Chapter::Concealment, [](Evidence& evidence) {
+                   const std::string formula =
+                       "Blackwell and Hodges, Annals of Mathematical Statistics 28 (1957)";
+                   constexpr int decimals = 9;
+                   for (const int size : {2, 4, 6, 12, 32, 96})
+                       evidence.Compare("Right guesses in a block of " + std::to_string(size) + ", 2 groups",
+                                        Fixed(RightByFormula(size), decimals),
+                                        Fixed(ExpectedOfBlock(size, 2).Right, decimals), formula);
+                   const std::string count = "the strategy applied to every arrangement";
+                   evidence.Compare("Right guesses in a block of 4, 2 groups",
+                                    Fixed(PlayedOverAll({0, 0, 1, 1}, 2), decimals),
+                                    Fixed(ExpectedOfBlock(4, 2).Right, decimals), count);
+                   evidence.Compare("Right guesses in a block of 9, 3 groups",
+                                    Fixed(PlayedOverAll({0, 0, 0, 1, 1, 1, 2, 2, 2}, 3), decimals),
+                                    Fixed(ExpectedOfBlock(9, 3).Right, decimals), count);
+                   evidence.Compare("Right guesses in a block of 8, 4 groups",
+                                    Fixed(PlayedOverAll({0, 0, 1, 1, 2, 2, 3, 3}, 4), decimals),
+                                    Fixed(ExpectedOfBlock(8, 4).Right, decimals), count);
+               });
 }
 
 Series ShareBySize(int groups, int largest) {
@@ -166,41 +169,37 @@ Series ShareBySize(int groups, int largest) {
 }
 
 void ShowChoice(Record& record) {
-    record.Run(
-        "CON-5.4", "CON-5", "Larger blocks are harder to guess", Chapter::Concealment,
-        [](Evidence& evidence) {
-            constexpr int largest = 48;
-            std::vector<Series> all;
-            for (const int groups : {2, 3, 4}) {
-                all.push_back(ShareBySize(groups, largest));
-                const auto& points = all.back().Points;
-                evidence.Demand(
-                    std::is_sorted(points.begin(), points.end(),
-                                   [](const auto& a, const auto& b) { return a.second > b.second; }),
-                    "The share does not fall with the size, " + all.back().Name);
-            }
-            evidence.Plot(LineChart("Share of right guesses by block size", "Subjects in a block",
-                                    "Share of right guesses, exact", all),
-                          "Exact share of right guesses in blocks of one size.");
-            evidence.Paragraph(
-                "How to choose. Where the treatment cannot be kept from the investigator, small blocks of "
-                "one size are the "
-                "easiest to guess, and one who knows their size is certain of the last subjects of each. A "
-                "list of sizes "
-                "is guessed about as often as its middle size, but hides where a block ends. Random sizes "
-                "and one block "
-                "are the hardest to guess; in return the groups can be further apart while the trial is "
-                "running. In a "
-                "trial that is blind, and whose list is kept secret, no strategy has anything to count.");
-            evidence.Paragraph(
-                "A block of 4 cannot be dealt out evenly to three groups, so blocks of 3 stand in its "
-                "place above, and 6, 9, 12 in place of 4, 6, 8.");
-        });
+    record.Run("CON-5.4", "CON-5", "Larger blocks are harder to guess", Chapter::Concealment,
+               [](Evidence& evidence) {
+                   constexpr int largest = 48;
+                   std::vector<Series> all;
+                   for (const int groups : {2, 3, 4}) {
+                       all.push_back(ShareBySize(groups, largest));
+                       const auto& points = all.back().Points;
+                       evidence.Demand(
+                           std::is_sorted(points.begin(), points.end(),
+                                          [](const auto& a, const auto& b) { return a.second > b.second; }),
+                           "The share does not fall with the size, " + all.back().Name);
+                   }
+                   evidence.Plot(LineChart("Share of right guesses by block size", "Subjects in a block",
+                                           "Share of right guesses, exact", all),
+                                 "Exact share of right guesses in blocks of one size.");
+                   evidence.Paragraph(
+                       "How to choose. If the investigator cannot be blinded, small blocks of one size are "
+                       "the easiest to guess, and an investigator who knows their size is certain of the "
+                       "last assignments of each block. With a list of sizes, the share of right guesses is "
+                       "about that of the middle size, but the ends of the blocks are not known. Random "
+                       "sizes and one block are the hardest to guess; on the other hand, the group sizes can "
+                       "differ more while the trial is running. In a blinded trial whose list is kept "
+                       "secret, the investigator has nothing to count.");
+                   evidence.Paragraph(
+                       "A block of 4 cannot be divided equally among three groups. For three groups, blocks "
+                       "of 3 are used instead of blocks of 4, and the sizes 6, 9, 12 instead of 4, 6, 8.");
+               });
 }
 
 void CheckTheGame(Record& record, const Scale& scale) {
-    record.Run("CON-5.5", "CON-5",
-               "Blocks that are dealt out and not shuffled are found by the guessing game",
+    record.Run("CON-5.5", "CON-5", "Blocks that are not shuffled are found by the share of right guesses",
                Chapter::ChecksOfChecks, [&](Evidence& evidence) {
                    const double exact = ExpectedShare({{4, 1}}, 2).Right;
                    const ListMaker dealt = [] {

@@ -1,4 +1,4 @@
-// How well an investigator can guess the next assignment, and what the secrecy of the draws rests on.
+// Checks how well an investigator can guess the next assignment, and what keeps the draws secret.
 #pragma once
 
 #include "validation/record.h"

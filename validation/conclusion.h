@@ -1,4 +1,4 @@
-// What all checks together say.
+// The overall result of all checks.
 #pragma once
 
 #include "validation/record.h"
@@ -8,10 +8,10 @@
 
 namespace orvane::validation {
 
-/// "passed", "failed" or "not run", as it stands in the record.
+/// "passed", "failed" or "not run", as printed in the record.
 std::string Name(Result result);
 
-/// Whether every check passed; false without any check.
+/// Whether every check passed; false if there are no checks.
 bool AllPassed(const Record& record);
 
 int Count(const Record& record, Result result);
@@ -22,7 +22,8 @@ std::vector<const Check*> ChecksOf(const Record& record, const std::string& requ
 /// The identifiers of requirements that no check covers.
 std::vector<std::string> Unchecked(const Record& record);
 
-/// The conclusion as lines for a terminal: one of the result, then one for each check that did not pass.
+/// The conclusion as lines for a terminal: first the overall result, then one line for each check that did
+/// not pass.
 std::vector<std::string> Conclusion(const Record& record);
 
 } // namespace orvane::validation

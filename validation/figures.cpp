@@ -8,7 +8,7 @@ namespace orvane::validation {
 namespace {
 
 std::string Written(double value, std::chars_format format, int precision) {
-    // Room for the longest number there is, about 310 digits, and its decimals.
+    // Enough for the longest double, about 310 digits, and its decimals.
     std::array<char, 400> text{};
     const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value, format, precision);
     return error == std::errc() ? std::string(text.data(), end) : "?";

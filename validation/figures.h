@@ -6,7 +6,7 @@
 
 namespace orvane::validation {
 
-/// `value` with `decimals` digits behind the point: Fixed(0.5, 2) gives "0.50".
+/// `value` with `decimals` digits after the decimal point: Fixed(0.5, 2) gives "0.50".
 std::string Fixed(double value, int decimals);
 
 /// `value` with at most `digits` significant digits, without trailing zeros: Significant(0.00125, 2) gives

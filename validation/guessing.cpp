@@ -8,7 +8,7 @@
 namespace orvane::validation {
 namespace {
 
-/// Subjects that each group still gets, the most first.
+/// Remaining subjects of each group, in descending order.
 using Rest = std::vector<int>;
 
 int SumOf(const Rest& rest) {
@@ -18,7 +18,7 @@ int SumOf(const Rest& rest) {
     return sum;
 }
 
-/// Works from the end of a block to its start and keeps what it found.
+/// Calculates from the end of a block to its start and stores the results.
 class BlockGame {
   public:
     Guessable From(const Rest& rest) {
@@ -28,7 +28,8 @@ class BlockGame {
         const auto known = known_.find(rest);
         if (known != known_.end())
             return known->second;
-        // The group that is behind is the one that gets most of the rest, and this is its chance to be next.
+        // The group with the fewest assignments has the most remaining subjects. This is the probability that
+        // it is the next.
         Guessable expected{static_cast<double>(rest.front()) / subjects,
                            rest.front() == subjects ? 1.0 : 0.0};
         for (std::size_t g = 0; g < rest.size() && rest[g] > 0; ++g) {
@@ -57,7 +58,7 @@ Guessable ExpectedOfBlock(int size, int groups) {
 }
 
 double RightByFormula(int size) {
-    // m + 2^(2m - 1) / C(2m, m) - 1/2, the quotient built up factor by factor: 2^(2m) / C(2m, m) is the
+    // m + 2^(2m - 1) / C(2m, m) - 1/2. The quotient is calculated factor by factor: 2^(2m) / C(2m, m) is the
     // product of 2 i / (2 i - 1) for i from 1 to m.
     const int m = size / 2;
     double quotient = 1;

@@ -58,7 +58,7 @@ std::vector<int> MakeAssignments(const BlockPlan& plan, UniformSource& random) {
         names.push_back(std::to_string(group));
     MemoryList list(random, names);
     list.Settings.SampleSize = GuessingSampleSize;
-    list.Settings.Columns = 1; // the cells are then the subjects in list order
+    list.Settings.Columns = 1; // then the cells are in list order
     list.Settings.prBlockOption = plan.Option;
     list.Settings.prEqBlockSize = list.Settings.prUnEqBlockSize = plan.Sizes;
     list.Settings.CodeAlphaNum = Numeric;

@@ -1,4 +1,4 @@
-// Lists that the program makes for the guessing game.
+// Lists made by the program for the guessing strategy.
 #pragma once
 
 #include "platform/uniform_source.h"
@@ -12,14 +12,14 @@ namespace orvane::validation {
 
 /// One way to set up the blocks of a list.
 struct BlockPlan {
-    std::string Name; ///< in the words of the options window
+    std::string Name; ///< for the record, after the options window
     int Groups = 2;
     std::int32_t Option = 0; ///< of BlockOptions
-    std::string Sizes;       ///< as typed into the field of the option
+    std::string Sizes;       ///< text of the field of the option
     std::vector<SizeChance> Chances;
 };
 
-/// Subjects asked for in every list of the game.
+/// Sample size of every list.
 inline constexpr int GuessingSampleSize = 96;
 
 /// The plans for two groups, then those for three.

@@ -1,4 +1,4 @@
-// Text as it stands in a page.
+// Conversion of plain text to HTML.
 #pragma once
 
 #include <string>
@@ -6,8 +6,8 @@
 
 namespace orvane::validation {
 
-/// `text` with the characters that mean something in HTML and SVG written as references. Control characters
-/// other than line feed and tab, which no page may hold, and bytes that are no UTF-8 are shown as "?".
+/// `text` with the special characters of HTML and SVG written as references. Control characters other than
+/// line feed and tab, which HTML does not allow, and bytes that are not UTF-8 are replaced by "?".
 std::string Escaped(std::string_view text);
 
 } // namespace orvane::validation

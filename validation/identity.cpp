@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* ProgramFile = "orvane";
 
-/// The value behind `key` and `separator` in the first line that starts with the key.
+/// The value after `key` and `separator` in the first line that starts with the key.
 std::string ValueIn(const fs::path& file, const std::string& key, char separator) {
     std::ifstream lines(file);
     for (std::string line; std::getline(lines, line);) {
@@ -72,13 +72,14 @@ std::string Sha256(const std::string& bytes) {
     return digits.get();
 }
 
-/// Whether the delivered program is the one that was built beside this validation.
+/// Where the delivered program comes from: whether it is the one built together with this validation.
 std::string Origin(const fs::path& program, const fs::path& built) {
     if (built.empty() || !fs::exists(built))
-        return "not known; the program that these sources give was not there to compare";
+        return "not known; there was no program built from these sources to compare it with";
     if (ReadWhole(program) == ReadWhole(built))
-        return "built from this commit on this machine: the same bytes";
-    return "delivered from elsewhere: other bytes than the program that this commit gives on this machine";
+        return "built from this commit on this machine (the files are identical)";
+    return "delivered from elsewhere: the file differs from the program built from this commit on this "
+           "machine";
 }
 
 } // namespace
@@ -100,7 +101,7 @@ std::vector<Row> FilesBelow(const fs::path& folder) {
 
 void RequireProgram(const fs::path& appFolder) {
     if (!fs::is_regular_file(appFolder / ProgramFile))
-        throw std::runtime_error(appFolder.string() + " holds no program of the name " + ProgramFile + ".");
+        throw std::runtime_error(appFolder.string() + " contains no program named " + ProgramFile + ".");
 }
 
 Identity Identify(const fs::path& appFolder, const SourceState& sources) {

@@ -9,7 +9,7 @@
 
 namespace orvane::validation {
 
-/// What the caller of the validation says of the sources that it was built from.
+/// The sources of the validation, as given by its caller.
 struct SourceState {
     std::string Commit = "unknown";
     std::string Tree = "unknown"; ///< "clean", or what was changed

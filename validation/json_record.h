@@ -1,4 +1,4 @@
-// The record for other programs to read.
+// The record in a form for other programs.
 #pragma once
 
 #include "validation/page.h"
@@ -8,7 +8,7 @@
 
 namespace orvane::validation {
 
-/// One JSON object; "conclusion" is "passed" or "failed", "checks" tells each check with its result.
+/// One JSON object; "conclusion" is "passed" or "failed", "checks" lists each check with its result.
 std::string RecordJson(const Record& record, const Run& run);
 
 } // namespace orvane::validation

@@ -38,7 +38,7 @@ void Keyboard::Move(const std::string& key) {
 void Keyboard::Choose(const std::vector<std::string>& items) {
     user_.AwaitMain();
     Move("Alt_L");
-    std::string key = "Right"; // along the bar; down within a menu
+    std::string key = "Right"; // along the menu bar; Down within a menu
     for (std::size_t level = 0; level < items.size(); ++level) {
         for (int left = MostSteps; CurrentItem() != items[level]; --left) {
             if (left == 0)

@@ -1,4 +1,4 @@
-// What can be done in the program with keys alone.
+// Operates the program with the keyboard only.
 #pragma once
 
 #include "tools/tour/user.h"
@@ -8,16 +8,18 @@
 
 namespace orvane::validation {
 
-/// Works with keys and looks only: the mouse is not touched, and no control is asked to take the focus.
+/// Sends keys and reads the state of controls: never uses the mouse, and never sets the focus through the
+/// accessibility interface.
 class Keyboard {
   public:
     Keyboard(driving::Desktop& desktop, driving::User& user) : desktop_(desktop), user_(user) {}
 
-    /// Opens the menus of the main window with Alt, goes to the last item with the arrows, and chooses it.
+    /// Opens the menus of the main window with Alt, moves to the last item with the arrow keys, and chooses
+    /// it.
     void Choose(const std::vector<std::string>& items);
-    /// Makes the option button of this name the chosen one of its group, which has these names.
+    /// Selects the option button `name`. `group` holds the names of all option buttons of its group.
     void Select(const std::vector<std::string>& group, const std::string& name);
-    /// Checks a check box, or clears it.
+    /// Checks or clears a check box.
     void Check(const std::string& name, bool checked);
     /// Moves a bar of the options window to a position, counted from its lower limit.
     void MoveBar(const std::string& title, const std::string& name, int stepsFromTheLeast);
@@ -27,7 +29,7 @@ class Keyboard {
   private:
     /// The menu item that Enter would choose; empty when no menu is open.
     [[nodiscard]] std::string CurrentItem() const;
-    /// Presses a key that moves on in a menu, and waits for the move.
+    /// Presses a key that moves within a menu, and waits until it has moved.
     void Move(const std::string& key);
 
     driving::Desktop& desktop_;

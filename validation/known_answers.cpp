@@ -14,7 +14,7 @@ std::string WithDots(const std::string& text) {
     return shown;
 }
 
-/// The lines of a text whose lines all end in CR LF; what stands behind the last line end is a line too.
+/// The lines of a text whose lines all end in CR LF. Any text after the last line end is a line too.
 std::vector<std::string> LinesOf(const std::string& text) {
     std::vector<std::string> lines;
     std::size_t start = 0;
@@ -44,10 +44,10 @@ void CompareLines(Evidence& evidence, const std::vector<std::string>& expectedLi
         evidence.Compare("Line " + std::to_string(i + 1),
                          i < expectedLines.size() ? WithDots(expectedLines[i]) : "no line",
                          i < lines.size() ? WithDots(lines[i]) : "no line", source);
-    evidence.Compare("Bytes, with CR LF behind every line", std::to_string(expected.size()),
+    evidence.Compare("Bytes, with CR LF after every line", std::to_string(expected.size()),
                      std::to_string(observed.size()), source);
-    evidence.Demand(observed == expected, "The bytes are not those expected.");
-    evidence.Paragraph("A middle dot stands for a blank.");
+    evidence.Demand(observed == expected, "The bytes are not the expected ones.");
+    evidence.Paragraph("A middle dot stands for a space.");
 }
 
 void CheckKnownAnswers(Record& record, const Scale& /*scale*/) {

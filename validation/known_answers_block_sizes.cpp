@@ -45,7 +45,7 @@ struct DrawnRow {
     std::int16_t Groups;
     std::int16_t SampleSize;
     std::string Text;
-    std::vector<float> Values; ///< the random values, then 0
+    std::vector<float> Values; ///< the random values; all later ones are 0
     std::string Sizes;
 };
 
@@ -56,7 +56,7 @@ void CompareDrawn(Evidence& evidence, BlockOptions option, const std::vector<Dra
         evidence.Compare(Kind(settings) + list, row.Sizes, PressOk(settings, "0.05", row.Values).Sizes,
                          ByHand);
     }
-    evidence.Paragraph("The random values of these draws are given by the check.");
+    evidence.Paragraph("The check supplies the random values of these draws.");
 }
 
 void CompareListedSizes(Evidence& evidence) {
@@ -73,7 +73,7 @@ void CompareListedSizes(Evidence& evidence) {
 }
 
 void CompareEndsOfLists(Evidence& evidence) {
-    // Eight values in the middle of the eighths of the range.
+    // The eight midpoints of the eighths of the range.
     const std::vector<float> even = {.0625, .1875, .3125, .4375, .5625, .6875, .8125, .9375};
     CompareDrawn(evidence, RandomSizesOf,
                  {{2, 48, "4,6,8", even, "4, 4, 6, 6, 6, 6, 8, 8"},
@@ -134,7 +134,7 @@ void CompareRefusals(Evidence& evidence) {
         const std::string what = (row.Option == EqualSize ? "Equal blocks of \"" : "Blocks of the sizes \"") +
                                  row.Text + "\", " + std::to_string(row.Groups) + " groups";
         evidence.Compare(what, row.Messages, result.Messages, ByHand);
-        evidence.Demand(result.Sizes.empty(), what + ": a list could be made of it");
+        evidence.Demand(result.Sizes.empty(), what + ": a list could be made");
         evidence.Demand(result.Focus == (row.Option == EqualSize ? "EqBlockSizeTxt" : "UnEqBlockSizeTxt"),
                         what + ": the focus is not on the field");
     }

@@ -1,4 +1,4 @@
-// Subject codes: sequential ones by their position, random ones that use up their alphabet, lengths that are
+// Subject codes: sequential codes by position, random codes that use every possible code, lengths that are
 // too short.
 #include "engine/subject_codes.h"
 #include "validation/known_answers_options.h"
@@ -41,7 +41,7 @@ void CompareSequentialCodes(Evidence& evidence) {
     }
 }
 
-/// Lists that need every code that there is.
+/// Lists that need every possible code.
 void CompareFullAlphabets(Evidence& evidence) {
     const struct {
         CodeAlphabets Alphabet;
@@ -67,7 +67,7 @@ void CompareFullAlphabets(Evidence& evidence) {
         const std::string list =
             "a list of " + std::to_string(row.Codes) + ' ' + row.Kind + " random codes of 2";
         evidence.Compare("Different codes of " + list, std::to_string(row.Codes),
-                         std::to_string(different.size()), "every code that there is");
+                         std::to_string(different.size()), "every possible code");
         evidence.Compare("Characters of " + list, row.Characters, std::string(used.begin(), used.end()),
                          ByHand);
         evidence.Compare("Longest code of " + list, "2", std::to_string(longest), ByHand);
@@ -106,7 +106,7 @@ void CompareShortLengths(Evidence& evidence) {
 } // namespace
 
 void CheckKnownCodes(Record& record) {
-    RunKnown(record, "COD-2.1", "Random codes that use up their alphabet", CompareFullAlphabets);
+    RunKnown(record, "COD-2.1", "Random codes of lists that need every possible code", CompareFullAlphabets);
     RunKnown(record, "COD-3.1", "Sequential codes by position", CompareSequentialCodes);
     RunKnown(record, "COD-5.1", "Code lengths that are too short", CompareShortLengths);
 }

@@ -1,4 +1,5 @@
-// The deal of a block, single draws, and whole blocks calculated a second time from the same key.
+// The group counts of a block, single draws, and whole blocks calculated by a second program from the same
+// key.
 #include "engine/block_shuffle.h"
 #include "engine/random_draws.h"
 #include "validation/figures.h"
@@ -31,7 +32,7 @@ void CompareDrawnCounts(Evidence& evidence, int size, int groups, const std::str
     DeliveredProgram program(entropy, clock);
     for (int i = 0; i < 100; ++i) {
         const std::string drawn = GroupCounts(program.Block(size, groups, 0), groups);
-        evidence.Demand(drawn == counts, "A drawn block holds its groups " + drawn + " times.");
+        evidence.Demand(drawn == counts, "The groups occur " + drawn + " times in a drawn block.");
     }
     evidence.Compare("Subjects of each group in 100 drawn blocks of " + std::to_string(size), counts,
                      GroupCounts(program.Block(size, groups, 0), groups), ByHand);
@@ -65,7 +66,7 @@ void CompareDraws(Evidence& evidence) {
     }
 }
 
-/// Groups A to C, the first exchanges of the shuffle listed; all later ones exchange position 1 with itself.
+/// A block ABC and the first exchanges of its shuffle. All later exchanges exchange position 1 with itself.
 void CompareExchanges(Evidence& evidence) {
     const struct {
         const char* Exchanges;
@@ -92,7 +93,8 @@ void CompareExchanges(Evidence& evidence) {
     }
 }
 
-/// The delivered program and a second one, written anew from the documented rules, on the same key and time.
+/// The delivered program and a second one, written independently from the documented rules, with the same key
+/// and time.
 struct TwoPrograms {
     KnownEntropy Entropy;
     KnownEntropy SameEntropy;
@@ -159,13 +161,14 @@ void CompareSizesAndCodesWithModel(Evidence& evidence) {
 } // namespace
 
 void CheckKnownDraws(Record& record) {
-    RunKnown(record, "ASG-1.1", "The deal of even blocks", [](Evidence& evidence) {
-        CompareDeal(evidence, 4, 2, "ABAB");
-        CompareDeal(evidence, 6, 3, "ABCABC");
-        CompareDeal(evidence, 16, 16, "ABCDEFGHIJKLMNOP");
-        CompareDrawnCounts(evidence, 12, 4, "3, 3, 3, 3");
-    });
-    RunKnown(record, "ASG-2.1", "The deal of one block of another size", [](Evidence& evidence) {
+    RunKnown(record, "ASG-1.1", "Group counts of blocks whose size is a multiple of the number of groups",
+             [](Evidence& evidence) {
+                 CompareDeal(evidence, 4, 2, "ABAB");
+                 CompareDeal(evidence, 6, 3, "ABCABC");
+                 CompareDeal(evidence, 16, 16, "ABCDEFGHIJKLMNOP");
+                 CompareDrawnCounts(evidence, 12, 4, "3, 3, 3, 3");
+             });
+    RunKnown(record, "ASG-2.1", "Group counts of one block of another size", [](Evidence& evidence) {
         CompareDeal(evidence, 10, 3, "ABCABCABCA");
         CompareDeal(evidence, 17, 16, "ABCDEFGHIJKLMNOPA");
         CompareDeal(evidence, 1, 2, "A");
@@ -173,10 +176,10 @@ void CheckKnownDraws(Record& record) {
         CompareDrawnCounts(evidence, 11, 3, "4, 4, 3");
     });
     RunKnown(record, "ASG-6.1", "Draws from known random values", CompareDraws);
-    RunKnown(record, "ASG-6.6", "Block sizes and codes, calculated a second time",
+    RunKnown(record, "ASG-6.6", "Block sizes and codes, calculated by a second program",
              CompareSizesAndCodesWithModel);
     RunKnown(record, "ASG-7.1", "Blocks from known exchanges", CompareExchanges);
-    RunKnown(record, "ASG-7.2", "Blocks, calculated a second time", CompareBlocksWithModel);
+    RunKnown(record, "ASG-7.2", "Blocks, calculated by a second program", CompareBlocksWithModel);
 }
 
 } // namespace orvane::validation

@@ -1,4 +1,5 @@
-// A worked list in all four forms, the places of subjects in a table, and characters that a file cannot hold.
+// An example list in all four output forms, the positions of subjects in a table, and characters that a file
+// cannot hold.
 #include "output/clipboard_report.h"
 #include "output/html_report.h"
 #include "output/shown_file.h"
@@ -13,11 +14,11 @@
 namespace orvane::validation {
 namespace {
 
-/// Draws of exchanges in blocks, as random values: after the exchanges given, a block gets only exchanges of
-/// its position 1 with itself.
+/// Random values that produce given exchanges in blocks. All later exchanges of a block exchange position 1
+/// with itself.
 class Exchanges {
   public:
-    /// Values that are drawn before the first block.
+    /// `before`: the number of values that are drawn before the first block.
     explicit Exchanges(std::size_t before = 0) : values_(before, 0) {}
     Exchanges& Block(int size, const std::vector<int>& positions) {
         const std::size_t end = values_.size() + static_cast<std::size_t>(20 * size * size);
@@ -32,7 +33,7 @@ class Exchanges {
     std::vector<float> values_;
 };
 
-/// The worked list: blocks of 6 and 4, with the groups 1 2 2 1 2 1 and 2 1 1 2, in three columns.
+/// The example list: blocks of 6 and 4, with the groups 1 2 2 1 2 1 and 2 1 1 2, in three columns.
 struct WorkedList {
     explicit WorkedList(std::size_t drawnBefore = 0)
         : Source(Exchanges(drawnBefore).Block(6, {3, 4, 5, 6}).Block(4, {1, 2}).Values()) {
@@ -48,7 +49,7 @@ struct WorkedList {
     MemoryList List{Source, {"Group 1", "Group 2"}};
 };
 
-/// Lines of cells, each filled up with blanks to 20 characters but for the last one of its row.
+/// Cells, each padded with spaces to 20 characters except the last one of its row.
 std::string Cells(const Texts& cells, std::size_t behindLast) {
     std::string line;
     for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -58,8 +59,8 @@ std::string Cells(const Texts& cells, std::size_t behindLast) {
     return line;
 }
 
-/// The six lines of the worked list as text: behind a filled last cell and in a blank one stand so many
-/// blanks, and so many "=" make the ruled line.
+/// The six lines of the example list as text. `behindFilled` is the number of spaces after a filled last
+/// cell, `blank` that of a blank cell, and `rule` the number of "=" in the ruled line.
 Texts WorkedLines(std::size_t behindFilled, std::size_t blank, std::size_t rule) {
     const std::string line(rule, '=');
     return {Cells({"001: Group 1", "003: Group 2", "005: Group 2"}, behindFilled),
@@ -148,9 +149,9 @@ void CompareWindow(Evidence& evidence) {
     auto& files = worked.List.Desktop.FileSystem.Contents;
     evidence.Compare("Messages", "", worked.List.Desktop.Messages.Take());
     evidence.Compare("Bytes of the worked list", "280", std::to_string(window.Text.size()), WorkedSource);
-    evidence.Compare("Files left behind beside the saved one", "0",
+    evidence.Compare("Files left besides the saved one", "0",
                      std::to_string(files.size() - files.count("saved.txt")));
-    evidence.Demand(files["saved.txt"] == window.Text, "The saved file is not what the window shows.");
+    evidence.Demand(files["saved.txt"] == window.Text, "The saved file differs from the text in the window.");
     CompareLines(evidence, WorkedLines(0, 3, 39), window.Text, WorkedSource);
 }
 
@@ -164,7 +165,7 @@ void CompareClipboard(Evidence& evidence) {
     CompareLines(evidence, WorkedLines(8, 18, 55), worked.List.Desktop.Board.Content, WorkedSource);
 }
 
-/// The subjects of a block, as they stand in the cells of its table, row by row.
+/// The cells of the table of a block, row by row.
 std::string Places(int size, std::int16_t columns) {
     ListedValues source;
     MemoryList list(source, {"A", "B"});
@@ -197,10 +198,10 @@ void ComparePlaces(Evidence& evidence) {
         evidence.Compare("Block of " + std::to_string(row.Size) + " in " + std::to_string(row.Columns) +
                              " columns",
                          row.Places, Places(row.Size, row.Columns), ByHand);
-    evidence.Paragraph("Rows are separated by bars, and a dash is a blank cell.");
+    evidence.Paragraph("Rows are separated by \"|\". A \"-\" is a blank cell.");
 }
 
-/// A list of two subjects of which one has a group name that Windows-1252 does not hold.
+/// A list of two subjects. One has a group name that Windows-1252 cannot represent.
 struct UnmappableList {
     UnmappableList() {
         List.Results.BlockSizes = {0, 2};
@@ -237,9 +238,9 @@ void CompareUnmappableCharacters(Evidence& evidence) {
     GenerateHtm(page.List.Context, "list.htm");
     const std::string& bytes = page.List.Desktop.FileSystem.Contents["list.htm"];
     evidence.Demand(bytes.find("<b>&#8805; 5 mg</b>") != std::string::npos,
-                    "The web page does not hold \u2265 as the reference &#8805;.");
+                    "The web page does not contain \u2265 as the reference &#8805;.");
     evidence.Demand(bytes.find("<b>Caf\xE9</b>") != std::string::npos,
-                    "The web page does not hold \u00E9 as the byte E9.");
+                    "The web page does not contain \u00E9 as the byte E9.");
 }
 
 } // namespace
@@ -249,7 +250,7 @@ void CheckKnownLists(Record& record) {
     RunKnown(record, "REP-2.1", "The worked list as a web page", CompareWebPage);
     RunKnown(record, "REP-3.1", "The worked list in the window", CompareWindow);
     RunKnown(record, "REP-4.1", "The worked list on the clipboard", CompareClipboard);
-    RunKnown(record, "REP-5.1", "Places of the subjects in a table", ComparePlaces);
+    RunKnown(record, "REP-5.1", "Positions of the subjects in a table", ComparePlaces);
     RunKnown(record, "REP-6.1", "Characters that a file cannot hold", CompareUnmappableCharacters);
 }
 

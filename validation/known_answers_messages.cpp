@@ -1,4 +1,4 @@
-// Input that is missing or cannot be used: the messages, and that what was typed stays.
+// Missing and unusable input: the messages, and that the typed text is kept.
 #include "engine/generation.h"
 #include "engine/numbers.h"
 #include "options/option_validation.h"
@@ -17,7 +17,7 @@ void CompareLevels(Evidence& evidence) {
         evidence.Compare("Significance level \"" + std::string(text) + "\"",
                          "Significance level must be greater than 0 ad less than 0.35", result.Messages,
                          ByHand);
-        evidence.Demand(result.Focus == "txtLevel", "The focus is not on the field of the level.");
+        evidence.Demand(result.Focus == "txtLevel", "The significance level field does not have the focus.");
     }
     for (const char* text : {"0.05", ".05", "0.05abc", "0.3"})
         evidence.Compare(
@@ -37,7 +37,7 @@ void CompareNumbers(Evidence& evidence) {
         {"1.2.3", "1.2"}, {"\t1\n2", "12"}, {"inf", "0"},    {"nan", "0"},
     };
     for (const auto& [text, value] : rows)
-        evidence.Compare("Number that the text \"" + std::string(text) + "\" stands for", value,
+        evidence.Compare("Numeric value of the text \"" + std::string(text) + "\"", value,
                          Significant(NumericValue(text), 12), ByHand);
     evidence.Compare("2.5, 3.5 and -2.5 as whole numbers", "2, 4, -2",
                      Listed(std::vector<int>{ToInt16(2.5), ToInt16(3.5), ToInt16(-2.5)}),
@@ -71,11 +71,12 @@ void CompareSampleSizes(Evidence& evidence) {
         evidence.Demand(SampleSizeOf(text) <= 0, "A sample size was made of \"" + std::string(text) + "\".");
         RefuseSampleSize(box, messages);
         evidence.Compare("Sample size \"" + std::string(text) + "\"", message, messages.Take(), ByHand);
-        evidence.Demand(box.HasFocus && box.Text() == text, "The box has no focus or another text.");
+        evidence.Demand(box.HasFocus && box.Text() == text,
+                        "The box does not have the focus, or its text has changed.");
     }
 }
 
-/// A refusal leaves the options as they were typed.
+/// A refusal keeps the options as typed.
 void CompareKeptText(Evidence& evidence) {
     ListSettings settings = ValidSettings(2, 20);
     settings.prBlockOption = RandomSizesOf;
@@ -98,7 +99,7 @@ void CheckKnownMessages(Record& record) {
     RunKnown(record, "MSG-1.1", "Sample sizes that cannot be used", CompareSampleSizes);
     RunKnown(record, "MSG-1.2", "Significance levels", CompareLevels);
     RunKnown(record, "MSG-1.3", "Numbers in texts", CompareNumbers);
-    RunKnown(record, "MSG-1.4", "What was typed stays after a refusal", CompareKeptText);
+    RunKnown(record, "MSG-1.4", "A refusal keeps what was typed", CompareKeptText);
 }
 
 } // namespace orvane::validation

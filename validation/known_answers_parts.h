@@ -18,10 +18,10 @@ void CheckKnownLists(Record& record);
 void CheckKnownSettings(Record& record);
 void CheckKnownMessages(Record& record);
 
-/// Where an expected result comes from, when no publication holds it.
+/// The source of an expected result that is not published.
 inline constexpr const char* ByHand = "worked by hand";
 
-/// Runs a check of the requirement that its identifier starts with.
+/// Runs a check. Its identifier starts with that of its requirement.
 void RunKnown(Record& record, const std::string& identifier, const std::string& title,
               const std::function<void(Evidence&)>& check);
 
@@ -34,7 +34,7 @@ std::string Listed(const Numbers& numbers) {
     return text;
 }
 
-/// Compares two texts line by line, every blank shown as a middle dot, and their lengths in bytes.
+/// Compares two texts line by line, with each space shown as a middle dot, and their lengths in bytes.
 void CompareLines(Evidence& evidence, const std::vector<std::string>& expectedLines,
                   const std::string& observed, const std::string& source);
 

@@ -1,4 +1,4 @@
-// The Runs test: published figures, P values, blocks that cannot pass, and what the user is told.
+// The Runs test: published figures, P values, blocks that cannot pass, and the message after a list.
 #include "engine/generation.h"
 #include "engine/numbers.h"
 #include "engine/runs_test.h"
@@ -29,7 +29,7 @@ void CompareStatistics(Evidence& evidence) {
     const struct {
         const char* Block;
         RunsCounts Counts;
-        const char* Z; ///< with as many decimals as published
+        const char* Z; ///< with the published number of decimals
         int Decimals;
         const char* Source;
     } rows[] = {
@@ -83,10 +83,10 @@ void ComparePValues(Evidence& evidence) {
     for (const auto& row : rows)
         evidence.Compare(std::string("P value of ") + row.Block, row.P,
                          Fixed(GetRandomness(NumbersOf(row.Block), messages), row.Decimals), row.Source);
-    evidence.Demand(messages.Shown.empty(), "A message came with a P value.");
+    evidence.Demand(messages.Shown.empty(), "A message was shown with a P value.");
 }
 
-/// All arrangements of some blocks, the P value of each calculated anew.
+/// Calculates the P value of all arrangements of some blocks independently of the program.
 void CompareAllArrangements(Evidence& evidence) {
     KeptMessages messages;
     for (const std::string block : {"AABB", "AAABBB", "AABBCC", "AAAABBBB", "ABCDE", "AAABBCC"}) {
@@ -99,7 +99,8 @@ void CompareAllArrangements(Evidence& evidence) {
             equal += std::abs(p - RunsDensity(arrangement)) < 1e-6 ? 1 : 0;
         } while (std::next_permutation(arrangement.begin(), arrangement.end()));
         evidence.Compare("P values of the arrangements of " + block + " that are equal to 6 decimals",
-                         std::to_string(all), std::to_string(equal), "calculated anew from the definition");
+                         std::to_string(all), std::to_string(equal),
+                         "calculated independently from the definition");
     }
 }
 
@@ -156,7 +157,7 @@ class NoBox : public SampleSizeBox {
     void SetFocus() override {}
 };
 
-/// A channel that leaves these P values behind.
+/// An output channel that sets these P values as the results of a list.
 class KnownPValues : public OutputChannels {
   public:
     KnownPValues(ListResults& results, float lowest, float highest)
@@ -187,7 +188,7 @@ std::string MessageAfter(float lowest, float highest) {
     return list.Desktop.Messages.Take();
 }
 
-/// The P values that a list leaves behind, beside those of its blocks calculated anew.
+/// Compares the smallest and largest P value of a list with values calculated independently from its blocks.
 void CompareExtremes(Evidence& evidence) {
     KnownEntropy entropy;
     RandomSource source(entropy);
@@ -229,7 +230,7 @@ void CheckKnownRunsTests(Record& record) {
     RunKnown(record, "RUN-1.2", "P values of known sequences", ComparePValues);
     RunKnown(record, "RUN-1.3", "P values of all arrangements of a block", CompareAllArrangements);
     RunKnown(record, "RUN-3.1", "Blocks that cannot pass the Runs test", CompareHopelessBlocks);
-    RunKnown(record, "RUN-4.1", "The P values that are told", CompareExtremes);
+    RunKnown(record, "RUN-4.1", "The message with the P values", CompareExtremes);
 }
 
 } // namespace orvane::validation

@@ -1,4 +1,4 @@
-// The worked settings file, written, read and written again, and settings out of range.
+// An example settings file that is written, read and written again; and settings out of range.
 #include "engine/numbers.h"
 #include "options/option_properties.h"
 #include "platform/failure.h"
@@ -124,11 +124,11 @@ void CompareRead(Evidence& evidence) {
     for (const auto& [what, texts] : values)
         evidence.Compare(what, texts.first, texts.second, ByHand);
     desk.Bytes().clear();
-    evidence.Compare("Message of writing it again", Saved, desk.Save(), ByHand);
-    evidence.Demand(desk.Bytes() == Joined(WorkedLines()), "Written again, the file has other bytes.");
+    evidence.Compare("Message after writing it again", Saved, desk.Save(), ByHand);
+    evidence.Demand(desk.Bytes() == Joined(WorkedLines()), "The file differs after writing it again.");
 }
 
-/// What a load says, cut to its first line, when line `number` of the worked file is `text`.
+/// The first line of the message when a file is loaded in which line `number` is `text`.
 std::string LoadedWith(SettingsDesk& desk, std::size_t number, const std::string& text) {
     Texts lines = WorkedLines();
     lines.at(number - 1) = text;
@@ -167,8 +167,8 @@ void CompareOutOfRange(Evidence& evidence) {
 } // namespace
 
 void CheckKnownSettings(Record& record) {
-    RunKnown(record, "SET-1.1", "The worked settings file", CompareWritten);
-    RunKnown(record, "SET-2.1", "The worked settings file, read and written again", CompareRead);
+    RunKnown(record, "SET-1.1", "The example settings file", CompareWritten);
+    RunKnown(record, "SET-2.1", "The example settings file, read and written again", CompareRead);
     RunKnown(record, "SET-3.1", "Settings out of range", CompareOutOfRange);
 }
 

@@ -1,4 +1,4 @@
-// The random source: the published cipher, no list without entropy, and reseeds.
+// The random source: the published cipher, refusal without entropy, and reseeds.
 #include "engine/chacha.h"
 #include "engine/random_source.h"
 #include "output/html_report.h"
@@ -28,8 +28,8 @@ std::string Hex(const Words& words) {
     return text;
 }
 
-/// The words of a block's input: constants, the key of bytes 0, 1, 2, ... or of zeros, then counter and
-/// nonce.
+/// The words of a block's input: constants, the key with the bytes 0, 1, 2, ... or with zeros, then counter
+/// and nonce.
 ChaChaWords Input(bool countingKey, const std::array<std::uint32_t, 4>& last) {
     ChaChaWords words{};
     std::copy(ChaChaConstants.begin(), ChaChaConstants.end(), words.begin());
@@ -60,7 +60,7 @@ void CompareCipher(Evidence& evidence) {
                      "72e14c98 416f21b9 6753449f 19566d45 a3424a31 01b086da b8fd7b38 42fe0c0e",
                      Hex(ChaChaBlock<8>(Input(false, {0, 0, 0, 0}))),
                      "draft-strombergson-chacha-test-vectors, TC1, 256 bit key, 8 rounds");
-    evidence.Paragraph("The random source of the program runs the block function with 8 rounds.");
+    evidence.Paragraph("The random source of the program uses the block function with 8 rounds.");
 }
 
 std::vector<std::uint32_t> BitsOf(RandomSource& source, std::size_t count) {
@@ -73,7 +73,8 @@ std::vector<std::uint32_t> BitsOf(RandomSource& source, std::size_t count) {
 }
 
 void CompareStream(Evidence& evidence) {
-    // Without a reseed the values are those of 32 blocks of the cipher side by side: the first of each block.
+    // Without a reseed the source calculates 32 blocks of the cipher together. Its first values are the first
+    // ones of each block.
     KnownEntropy entropy;
     RandomSource source(entropy);
     std::vector<std::uint32_t> expected;
@@ -90,7 +91,7 @@ void CompareStream(Evidence& evidence) {
                      Hex(BitsOf(source, 12)), second);
 }
 
-/// Tries to make a list; what came of it.
+/// Tries to make a list and returns the outcome.
 std::string ListWith(Entropy& entropy, const std::function<void(MemoryList&)>& report) {
     RandomSource source(entropy);
     MemoryList list(source, {"Group 1", "Group 2"});
@@ -134,7 +135,7 @@ void CompareReseeds(Evidence& evidence) {
         different.insert(BitsOf(source, 4));
     }
     evidence.Compare("Different values after each of 10,000 reseeds with the same time", Grouped(reseeds),
-                     Grouped(static_cast<std::int64_t>(different.size())), "no state comes twice");
+                     Grouped(static_cast<std::int64_t>(different.size())), "no state is repeated");
 
     std::set<std::vector<std::uint32_t>> ofKeys;
     for (int key = 0; key < 256; ++key) {
@@ -144,14 +145,14 @@ void CompareReseeds(Evidence& evidence) {
         ofKeys.insert(BitsOf(reseeded, 4));
     }
     evidence.Compare("Different values from 256 keys after a reseed with the same time", "256",
-                     std::to_string(ofKeys.size()), "the key decides, not the time");
+                     std::to_string(ofKeys.size()), "the values depend on the key, not only on the time");
 }
 
 } // namespace
 
 void CheckKnownSource(Record& record) {
     RunKnown(record, "CON-1.1", "The cipher of the random source", CompareCipher);
-    RunKnown(record, "CON-1.3", "The random source is that cipher", CompareStream);
+    RunKnown(record, "CON-1.3", "The random source uses this cipher", CompareStream);
     RunKnown(record, "CON-2.1", "No list without randomness", CompareWithoutEntropy);
     RunKnown(record, "CON-6.1", "Values after reseeds with a known time", CompareReseeds);
 }

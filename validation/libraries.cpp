@@ -27,8 +27,8 @@ std::map<std::string, std::string> FilesOf(const std::string& answer) {
     return files;
 }
 
-/// The paths under which the package system may know a file: systems that have merged /lib into /usr/lib keep
-/// the old names.
+/// The paths under which the package database may list a file: on systems that merged /lib into /usr/lib it
+/// contains the old paths.
 std::vector<std::string> NamesOf(const std::string& file) {
     std::vector<std::string> names{file};
     std::error_code error;
@@ -42,7 +42,7 @@ std::vector<std::string> NamesOf(const std::string& file) {
     return names;
 }
 
-/// The package of each file that one owns.
+/// The package of each file that belongs to one.
 std::map<std::string, std::string> PackagesOf(const std::vector<std::string>& files) {
     std::vector<std::string> command{"dpkg-query", "-S"};
     command.insert(command.end(), files.begin(), files.end());
@@ -70,7 +70,7 @@ std::string Version(const std::string& file, const std::map<std::string, std::st
             return version;
     }
     std::error_code error;
-    return "of no package: " + fs::canonical(file, error).filename().string();
+    return "no package: " + fs::canonical(file, error).filename().string();
 }
 
 } // namespace

@@ -8,9 +8,9 @@
 
 namespace orvane::validation {
 
-/// Of each library its name, its version and the file that the loader takes. The version is that of the
-/// system's package; a library in the program's own folder is told by its file name. Sorted by name. Empty
-/// when the loader cannot be asked.
+/// For each library its name, its package with the version, and the file that the loader uses. A library that
+/// belongs to no package has its file name instead of a version. Sorted by name. Empty if the loader cannot
+/// be run.
 std::vector<Row> LoadedLibraries(const std::filesystem::path& program);
 
 } // namespace orvane::validation

@@ -1,4 +1,4 @@
-// What is demanded of a finished list: one check for each requirement that a list can meet or miss.
+// The checks of a finished list.
 #pragma once
 
 #include "validation/made_list.h"
@@ -14,11 +14,12 @@ struct ListCheck {
     std::string Identifier;
     std::string Requirement;
     std::string Title;
-    bool NeedsBlocks; ///< judges what was read; else the bytes or the windows themselves
+    bool NeedsBlocks; ///< needs the blocks that were read back
     bool (*Applies)(const ListSetup&);
-    /// What is wrong with a list to which the check applies, and that could be read if `NeedsBlocks`.
+    /// The faults of a list.
+    /// Requires: the check applies to the list, and the list could be read if `NeedsBlocks`.
     Faults (*Judge)(const MadeList&);
-    /// What was found, for the table of the record.
+    /// The finding for the table of the record.
     std::string (*Found)(const MadeList&);
 };
 

@@ -9,14 +9,14 @@ namespace orvane::validation {
 
 namespace {
 
-/// What one check says of a list; empty where it does not apply or cannot judge.
+/// The faults that one check finds in a list; empty if it does not apply or cannot judge.
 Faults Said(const ListCheck& check, const MadeList& list) {
     if (!check.Applies(list.Setup) || (check.NeedsBlocks && !list.Readable()))
         return {};
     return check.Judge(list);
 }
 
-/// The identifiers of all checks that find a list wrong.
+/// The identifiers of all checks that find a fault in a list.
 std::vector<std::string> Finders(const MadeList& list) {
     std::vector<std::string> finders;
     for (const ListCheck& check : ListChecks())
@@ -47,10 +47,10 @@ void CheckRightLists(Evidence& evidence, const ListCheck& check) {
     for (const MadeList& list : RightLists()) {
         judged += check.Applies(list.Setup) ? 1 : 0;
         for (const std::string& fault : Said(check, list))
-            evidence.Demand(false, "a right list is found wrong: " + fault);
+            evidence.Demand(false, "a fault is found in a correct list: " + fault);
     }
-    evidence.Demand(judged > 0, "there is no right list for this check");
-    evidence.Paragraph("Right lists that the check lets pass: " + std::to_string(judged) + ".");
+    evidence.Demand(judged > 0, "there is no correct list for this check");
+    evidence.Paragraph("Correct lists that pass the check: " + std::to_string(judged) + ".");
 }
 
 void CheckWrongLists(Evidence& evidence, const ListCheck& check) {
@@ -64,8 +64,8 @@ void CheckWrongLists(Evidence& evidence, const ListCheck& check) {
         rows.push_back({wrong.What, Text(wrong.List.Setup.Output),
                         faults.empty() ? "NOT FOUND" : faults.front(), Joined(Finders(wrong.List))});
     }
-    evidence.Demand(!rows.empty(), "there is no wrong list for this check");
-    evidence.Table({"Wrong on purpose", "Form", "What the check says", "Found by"}, rows);
+    evidence.Demand(!rows.empty(), "there is no faulty list for this check");
+    evidence.Table({"Deliberate fault", "Form", "Message of the check", "Found by"}, rows);
 }
 
 void CheckChangedBytes(Evidence& evidence, Form form) {
@@ -92,7 +92,7 @@ void CheckListChecks(Record& record, const Scale&) {
                                                                     {"REP-4", Form::Clipboard}}};
     for (const ListCheck& check : ListChecks())
         record.Run(check.Requirement + ".20", check.Requirement,
-                   "Wrong lists are found by " + check.Identifier, Chapter::ChecksOfChecks,
+                   "Faulty lists are found by " + check.Identifier, Chapter::ChecksOfChecks,
                    [&](Evidence& evidence) {
                        CheckRightLists(evidence, check);
                        CheckWrongLists(evidence, check);

@@ -17,7 +17,7 @@ enum : std::size_t { Blocks, Codes, Output, Columns, Page, Runs, Groups, Sample,
 
 constexpr std::array<int, 4> ColumnCounts = {1, 6, 8, 10};
 constexpr std::array<int, 5> GroupCounts = {2, 3, 4, 7, 16};
-// 23 is no multiple of any number of groups above, the others are of some of them.
+// 23 is not a multiple of any number of groups above; the others are multiples of some of them.
 constexpr std::array<int, 4> SampleSizes = {23, 60, 144, 301};
 constexpr std::array<const char*, 3> Levels = {"", "0.05", "0.2"};
 constexpr std::size_t LongNames = 1;
@@ -29,10 +29,10 @@ struct PageLook {
 };
 constexpr std::array<PageLook, 4> PageLooks = {{{false, 1}, {true, 0}, {true, 3}, {false, 5}}};
 
-// Characters of a cell with the longest code and a short name.
+// Width in characters of a cell with the longest code and a short name.
 constexpr int WideCell = 10 + 2 + 5;
 
-/// Characters that the clipboard has for a cell.
+/// Width in characters of a column on the clipboard.
 constexpr int ClipboardWidth(int columns) {
     return std::min(20, 150 / columns);
 }
@@ -92,7 +92,7 @@ std::string Words(const Pair& pair) {
     return text(std::get<0>(pair)) + " with " + text(std::get<1>(pair));
 }
 
-/// The pairs of the levels that a combination has so far.
+/// Calls `use` with each pair of levels that a combination has so far.
 template <typename Use>
 void ForEachPair(const Combination& combination, const Use& use) {
     for (std::size_t a = 0; a < combination.size(); ++a)
@@ -101,7 +101,7 @@ void ForEachPair(const Combination& combination, const Use& use) {
                 use(Pair{{a, combination[a]}, {b, combination[b]}});
 }
 
-/// Covers pairs list by list.
+/// Searches lists that cover open pairs, one list at a time.
 class Search {
   public:
     Search() {
@@ -112,7 +112,7 @@ class Search {
 
     [[nodiscard]] bool Done() const { return open_.empty(); }
 
-    /// The best of many lists.
+    /// The best of many random lists.
     Combination Next() {
         constexpr int tries = 400;
         Combination best;
@@ -130,8 +130,8 @@ class Search {
     }
 
   private:
-    /// A list that starts from an open pair. Its other factors follow in random order; each takes the level
-    /// that covers most.
+    /// A list that starts with an open pair. The other factors are set in random order, each to the level
+    /// that covers most pairs.
     Combination Grow() {
         Combination combination(FactorCount, Open);
         auto first = open_.begin();
@@ -161,7 +161,8 @@ class Search {
         return best;
     }
 
-    /// New pairs; a level that no list has yet counts as many, so that a few lists already have all levels.
+    /// The number of new pairs. A level that no list has yet counts as many pairs, so that the first lists
+    /// cover all levels.
     [[nodiscard]] std::size_t Worth(const Combination& combination) const {
         constexpr std::size_t newLevel = 10;
         std::size_t worth = 0;
@@ -195,7 +196,7 @@ std::vector<std::string> GroupNames(int count, bool wide) {
     std::vector<std::string> names;
     for (int group = 1; group <= count; ++group) {
         const std::string number = std::to_string(group);
-        // The byte E9 is a letter of the 8-bit code page; "<" and "&" mean something in a web page.
+        // The byte E9 is a letter of the 8-bit code page; "<" and "&" are special characters in HTML.
         names.push_back(wide ? "Th\xE9rapie no " + number +
                                    (group % 2 == 0 ? " & placebo" : " <10 mg, at night>")
                              : std::string("Arm ") + static_cast<char>('A' + group - 1));
@@ -289,7 +290,7 @@ std::vector<Combination> BuildDesign(std::size_t most) {
 }
 
 std::vector<ListSetup> Setups(const std::vector<Combination>& lists) {
-    // Many names, or letters beyond ASCII, take long to type.
+    // Typing many names, or letters outside ASCII, takes too long.
     constexpr int mostTypedGroups = 4;
     constexpr std::array<Way, 3> ways = {Way::Typed, Way::Clicked, Way::Loaded};
     std::vector<ListSetup> setups;

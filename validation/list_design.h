@@ -1,4 +1,4 @@
-// Which lists are made: a design in which each two choices of the user meet in some list.
+// The design of the lists: each possible pair of choices of the user occurs together in some list.
 #pragma once
 
 #include "validation/list_setup.h"
@@ -9,18 +9,19 @@
 
 namespace orvane::validation {
 
-/// One thing that the user chooses, and the choices that the design tries.
+/// A setting of the user, and the choices for it that the design uses.
 struct Factor {
     std::string Name;
     std::vector<std::string> Levels;
 };
 
-/// For each factor the number of its level, from 0.
+/// The level of each factor, numbered from 0.
 using Combination = std::vector<std::size_t>;
 
 const std::vector<Factor>& Factors();
 
-/// False for choices that the program refuses together: names that are too wide for the clipboard's columns.
+/// False for choices that the program refuses in combination: names that are too wide for the clipboard's
+/// columns.
 bool Possible(const Combination& combination);
 
 struct Coverage {
@@ -31,14 +32,14 @@ struct Coverage {
     std::vector<std::string> Missing; ///< the pairs that are not covered
 };
 
-/// Counts anew, from the lists alone, what they cover.
+/// Counts what the lists cover, independently of the search that made them.
 Coverage CoverageOf(const std::vector<Combination>& lists);
 
-/// Adds list after list, each with as many new pairs as a search finds, until every possible pair is covered
-/// or there are `most` lists. The same at every call.
+/// Adds lists, each with as many new pairs as a search finds, until every possible pair is covered or there
+/// are `most` lists. Every call gives the same result.
 std::vector<Combination> BuildDesign(std::size_t most);
 
-/// The lists of a design as the user sets them up, numbered from 1.
+/// The set-ups of the lists of a design, numbered from 1.
 std::vector<ListSetup> Setups(const std::vector<Combination>& lists);
 
 } // namespace orvane::validation

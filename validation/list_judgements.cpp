@@ -18,7 +18,7 @@ std::string Number(std::size_t number) {
     return std::to_string(number);
 }
 
-/// Subjects of each group, slot 0 for group 1.
+/// The number of subjects of each group; index 0 is group 1.
 std::vector<int> Counts(const std::vector<Subject>& block, const ListSetup& setup) {
     std::vector<int> counts(setup.Groups.size());
     for (const Subject& subject : block)
@@ -48,7 +48,7 @@ int SubjectsBeforeTheLastBlock(const MadeList& list) {
     return Subjects(list) - Size(list.Blocks.back());
 }
 
-/// A fault for each block whose size does not fit.
+/// One fault for each block of a wrong size.
 template <typename Fits>
 Faults SizeFaults(const MadeList& list, const Fits& fits) {
     Faults faults;
@@ -72,7 +72,7 @@ std::string Characters(Alphabet alphabet) {
     }
 }
 
-/// The number that a code stands for, its characters being the digits from zero on.
+/// The numeric value of a code. `digits` are its digits from zero on.
 std::uint64_t Value(const std::string& code, const std::string& digits) {
     std::uint64_t value = 0;
     for (const char digit : code)
@@ -80,7 +80,7 @@ std::uint64_t Value(const std::string& code, const std::string& digits) {
     return value;
 }
 
-/// P values that differ by less are the same but for rounding.
+/// P values that differ by less are equal apart from rounding.
 constexpr double Rounding = 1e-6;
 
 std::vector<double> Values(const MadeList& list) {
@@ -95,14 +95,14 @@ std::vector<double> Values(const MadeList& list) {
     return values;
 }
 
-/// Whether `shown`, with at most four decimals and no zero at the end, is `value`.
+/// Whether `shown` is `value` with at most four decimals and no trailing zero.
 bool Shows(const std::string& shown, double value) {
     static const std::regex picture("0(\\.[0-9]{0,3}[1-9])?");
     return std::regex_match(shown, picture) && std::abs(std::stod(shown) - value) <= 0.00005 + Rounding;
 }
 
-/// The bytes of a file as text in UTF-8 with lines ended by LF. The names of the design have no letter in
-/// which the 8-bit code page differs from the first 256 characters of Unicode.
+/// The bytes of a file as UTF-8 text with LF line ends. Bytes are taken as Unicode code points, which is
+/// correct for all letters in the names of the design.
 std::string ShownText(const std::string& bytes) {
     std::string text;
     for (const char letter : bytes) {
@@ -127,7 +127,7 @@ Faults EvenBlocks(const MadeList& list) {
         const bool even =
             std::all_of(counts.begin(), counts.end(), [&](int count) { return count == counts.front(); });
         if (Size(list.Blocks[block]) % groups == 0 && !even)
-            faults.push_back("block " + Number(block + 1) + " holds the groups " + Text(counts) + " times");
+            faults.push_back("block " + Number(block + 1) + " has the groups " + Text(counts) + " times");
     }
     return faults;
 }
@@ -140,7 +140,7 @@ Faults FirstGroupsHaveOneMore(const MadeList& list) {
     const std::vector<int> counts = Counts(list.Blocks.front(), list.Setup);
     if (counts == expected)
         return {};
-    return {"the block holds the groups " + Text(counts) + " times instead of " + Text(expected)};
+    return {"the block has the groups " + Text(counts) + " times instead of " + Text(expected)};
 }
 
 Faults OneBlockOfTheSample(const MadeList& list) {
@@ -179,7 +179,7 @@ Faults BlocksOfRandomSizes(const MadeList& list) {
     if (Subjects(list) <= list.Setup.SampleSize)
         faults.push_back("only " + std::to_string(Subjects(list)) + " subjects");
     if (SubjectsBeforeTheLastBlock(list) > list.Setup.SampleSize)
-        faults.emplace_back("the sample size is passed before the last block");
+        faults.emplace_back("the sample size is exceeded before the last block");
     return faults;
 }
 
@@ -197,7 +197,7 @@ Faults UniqueCodes(const MadeList& list) {
     for (const auto& block : list.Blocks)
         for (const Subject& subject : block)
             if (!codes.insert(subject.Code).second)
-                faults.push_back("the code " + subject.Code + " stands twice");
+                faults.push_back("the code " + subject.Code + " occurs twice");
     return faults;
 }
 
@@ -260,7 +260,7 @@ Faults Layout(const MadeList& list) {
 Faults WindowShowsTheList(const MadeList& list) {
     Faults faults = Layout(list);
     if (!list.Window || list.Window->Text != ShownText(list.Bytes))
-        faults.emplace_back("the window shows another text than the saved file holds");
+        faults.emplace_back("the text in the window differs from the saved file");
     return faults;
 }
 
@@ -281,9 +281,9 @@ Faults PrivateTemporaryFile(const MadeList& list) {
     Faults faults;
     if (list.Window->TemporaryFiles != std::vector<std::string>{"rw-------"})
         faults.push_back(Number(list.Window->TemporaryFiles.size()) +
-                         " temporary files instead of one that its owner alone can read");
+                         " temporary files instead of one that only its owner can read");
     for (const std::string& file : list.Window->LeftBehind)
-        faults.push_back(file + " was left behind");
+        faults.push_back(file + " was not deleted");
     return faults;
 }
 

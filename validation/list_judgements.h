@@ -1,4 +1,4 @@
-// The rules of a randomization list, each judged for one list that was read back.
+// The rules of a randomization list. Each routine returns the faults of one list that was read back.
 #pragma once
 
 #include "validation/list_checks.h"

@@ -80,7 +80,7 @@ void ListMaker::Kill() {
             desktop_.Signal(SIGKILL);
             desktop_.AwaitEnd();
         }
-    } catch (const Fault&) { // NOLINT(bugprone-empty-catch): the next start tells
+    } catch (const Fault&) { // NOLINT(bugprone-empty-catch): the next start reports it
     }
 }
 
@@ -140,7 +140,7 @@ void ListMaker::TakeFromWindow(MadeList& list) {
 void ListMaker::TakeFromClipboard(MadeList& list) {
     const Message message = user_.AwaitMessage();
     if (message.Text != "Data were copied into clipboard successfuly!")
-        throw Fault("the message behind the copy: " + message.Text);
+        throw Fault("the message after copying: " + message.Text);
     list.Bytes = desktop_.Pasted();
     driving::WriteFile(list.File, list.Bytes);
     user_.Confirm(message);

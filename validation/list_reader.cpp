@@ -9,14 +9,14 @@ namespace orvane::validation {
 
 namespace {
 
-constexpr std::size_t TextColumn = 20; // characters from the start of a column to the next one's
+constexpr std::size_t TextColumn = 20; // width of a column in characters
 constexpr std::string_view LineEnd = "\r\n";
 
 // Length of the ruled line in text files and on the clipboard, for 1 to 10 columns.
 constexpr std::array<std::size_t, 10> RuledLines = {20, 35, 55, 75, 95, 110, 130, 137, 142, 148};
 constexpr std::size_t WindowRuledLine = 13; // for each column
 
-/// Goes through the bytes of a list once, from the first to the last.
+/// Reads the bytes of a list once, from the first to the last.
 class Cursor {
   public:
     Cursor(std::string_view bytes, const ListSetup& setup) : bytes_(bytes), setup_(setup) {}
@@ -40,14 +40,14 @@ class Cursor {
         ++line_;
     }
 
-    /// A code, `between` and the name of a group.
+    /// Reads a code, the text `between`, and the name of a group.
     Subject ReadSubject(std::string_view between) {
         const std::string_view code = bytes_.substr(at_, static_cast<std::size_t>(setup_.CodeLength));
         if (code.find_first_of("\r\n:=<> ") != std::string_view::npos ||
             code.size() < static_cast<std::size_t>(setup_.CodeLength))
             Fail("a code of " + std::to_string(setup_.CodeLength) + " characters");
         at_ += code.size();
-        Expect(between, "\"" + std::string(between) + "\" behind the code");
+        Expect(between, "\"" + std::string(between) + "\" after the code");
         return {std::string(code), ReadGroup()};
     }
 
@@ -57,7 +57,7 @@ class Cursor {
     }
 
   private:
-    /// The longest name that stands here, since one name can be the start of another.
+    /// Reads the longest group name that matches, because one name can be the start of another.
     int ReadGroup() {
         std::size_t longest = 0;
         int group = 0;
@@ -81,8 +81,8 @@ class Cursor {
     std::size_t line_ = 1;
 };
 
-/// Reads the three forms that are lines of text. They differ in the blank cell, in the ruled line, and in how
-/// the cells get to their places.
+/// Reads the three text forms. They differ in the blank cell, in the ruled line, and in how the cells are
+/// positioned.
 class TextReader {
   public:
     TextReader(const std::string& bytes, const ListSetup& setup)
@@ -109,8 +109,8 @@ class TextReader {
         return table;
     }
 
-    /// Column c starts at character 20 * (c - 1) + 1. A cell whose place is already passed stands on a new
-    /// line.
+    /// Column c starts at character 20 * (c - 1) + 1. A cell whose position has already been passed is on a
+    /// new line.
     TableRow ReadPlacedRow() {
         TableRow row;
         for (std::size_t column = 0; column < columns_; ++column) {
@@ -123,7 +123,7 @@ class TextReader {
         return row;
     }
 
-    /// Each cell is filled up with spaces to the width of a column, a blank one two characters less.
+    /// Each cell is padded with spaces to the width of a column; a blank cell is two characters shorter.
     TableRow ReadFilledUpRow() {
         const std::size_t width = std::min(TextColumn, 150 / columns_);
         TableRow row;
@@ -155,7 +155,7 @@ class TextReader {
     std::size_t columns_;
 };
 
-/// Reads a web page, in which every cell has a line of its own.
+/// Reads a web page, in which every cell is on its own line.
 class PageReader {
   public:
     PageReader(const std::string& bytes, const ListSetup& setup)
@@ -237,7 +237,7 @@ std::string BlankFault(const BlockTable& table) {
     const std::size_t columns = table.front().size();
     const std::size_t filled = DownTheColumns(table).size();
     if ((filled + columns - 1) / columns != table.size())
-        return std::to_string(filled) + " subjects stand in " + std::to_string(table.size()) + " rows";
+        return std::to_string(filled) + " subjects are in " + std::to_string(table.size()) + " rows";
     for (std::size_t column = 0; column < columns; ++column)
         for (std::size_t row = 0; row < table.size(); ++row)
             if (table[row][column].has_value() != (column * table.size() + row < filled))

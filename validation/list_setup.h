@@ -1,4 +1,4 @@
-// What one list is made of: all that a user chooses before the button "Generate Random List" does its work.
+// The set-up of one list: everything that the user chooses before pressing "Generate Random List".
 #pragma once
 
 #include <string>
@@ -6,12 +6,12 @@
 
 namespace orvane::validation {
 
-// The numbers are those of the settings file.
+// The values are those of the settings file.
 enum class BlockOption { One = 0, Equal = 1, Listed = 2, RandomSizes = 3 };
 enum class Alphabet { Letters = 0, Digits = 1, Mixed = 2 };
 enum class Form { TextFile, WebPage, Window, Clipboard };
 
-/// How the set-up reaches the program.
+/// How the set-up is entered into the program.
 enum class Way { Typed, Clicked, Loaded };
 
 struct ListSetup {
@@ -30,7 +30,7 @@ struct ListSetup {
     int SampleSize = 0;
     int EqualSize = 0;            ///< of a block under BlockOption::Equal
     std::vector<int> ListedSizes; ///< that a block may have under BlockOption::Listed
-    std::string ListedSizesText;  ///< the same as the user types them
+    std::string ListedSizesText;  ///< as the user types them
 
     [[nodiscard]] int GroupCount() const { return static_cast<int>(Groups.size()); }
     [[nodiscard]] bool RunsTest() const { return !Level.empty(); }
@@ -45,7 +45,7 @@ int ShortestCode(int sampleSize);
 /// The name of the list's file in the evidence, such as "list-01.txt".
 std::string FileName(const ListSetup& setup);
 
-// Words of the record.
+// Texts for the record.
 std::string Text(BlockOption option);
 std::string Text(Form form);
 std::string Text(Way way);

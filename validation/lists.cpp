@@ -21,15 +21,15 @@ std::string Number(std::size_t number) {
     return std::to_string(number);
 }
 
-/// What the design covers, counted anew from its lists.
+/// Checks what the design covers, counted independently from its lists.
 void CheckDesign(Evidence& evidence, const Scale& scale, const std::vector<Combination>& design) {
     const Coverage coverage = CoverageOf(design);
-    evidence.Compare("choices that some list has", Number(coverage.Levels), Number(coverage.CoveredLevels));
+    evidence.Compare("choices that occur in a list", Number(coverage.Levels), Number(coverage.CoveredLevels));
     if (scale.Quick)
-        evidence.Paragraph("The quick form covers " + Number(coverage.CoveredPairs) + " of " +
+        evidence.Paragraph("A quick validation covers " + Number(coverage.CoveredPairs) + " of " +
                            Number(coverage.Pairs) + " pairs of choices; a full validation covers all.");
     else
-        evidence.Compare("pairs of choices that meet in some list", Number(coverage.Pairs),
+        evidence.Compare("pairs of choices that occur together in a list", Number(coverage.Pairs),
                          Number(coverage.CoveredPairs));
     for (const std::string& pair : coverage.Missing)
         evidence.Demand(scale.Quick, "no list has " + pair);
@@ -41,10 +41,9 @@ void CheckDesign(Evidence& evidence, const Scale& scale, const std::vector<Combi
         rows.push_back({factor.Name, levels});
     }
     evidence.Table({"What the user chooses", "Choices of the design"}, rows);
-    evidence.Paragraph(
-        "Not possible together, because the program refuses names that are wider than a column "
-        "of the clipboard: clipboard with names wider than a column; clipboard in 10 columns "
-        "with codes of 10 characters.");
+    evidence.Paragraph("Two combinations of choices are not possible, because the program refuses cells that "
+                       "are wider than a column of the clipboard: clipboard with names wider than a column, "
+                       "and clipboard in 10 columns with codes of 10 characters.");
 }
 
 Row SetupRow(const ListSetup& setup) {
@@ -73,11 +72,11 @@ Row ResultRow(const MadeList& list) {
     return row;
 }
 
-/// Makes all lists. What is not made fails this check and each later one that would judge it. `lists` has
-/// what there is, also after an exception.
+/// Makes all lists. A list that is not made fails this check and each later check that applies to it. `lists`
+/// holds the lists made so far, also after an exception.
 void MakeLists(Evidence& evidence, ListMaker& maker, const std::vector<ListSetup>& setups,
                std::vector<MadeList>& lists) {
-    constexpr int mostInARow = 3; // every list that does not come costs minutes
+    constexpr int mostInARow = 3; // every list that fails takes minutes
     int failures = 0;
     for (const ListSetup& setup : setups) {
         MadeList list;
@@ -98,10 +97,10 @@ void MakeLists(Evidence& evidence, ListMaker& maker, const std::vector<ListSetup
         rows.push_back(ResultRow(list));
     evidence.Table(
         {"List", "Set-up", "Blocks", "Sample size in groups", "Codes", "Form", "Runs test", "Blocks found"},
-        rows, "The lists, and the blocks that were read back");
+        rows, "The lists and the blocks read back from them");
     evidence.Paragraph(
-        "Set-up: typed, with keys alone; clicked, with the mouse in the options window; loaded, from "
-        "a settings file, the rest with keys. The lists are kept in the folder \"" +
+        "Set-up: typed = with the keyboard only; clicked = with the mouse in the options window; "
+        "loaded = from a settings file, the rest with the keyboard. The lists are kept in the folder \"" +
         std::string(ListFolder) + "\", list 1 as list-01, web pages as .htm, others as .txt.");
 }
 
@@ -126,7 +125,7 @@ void Judge(Evidence& evidence, const ListCheck& check, const std::vector<MadeLis
                         faults.empty() ? "right" : "WRONG"});
     }
     if (rows.empty())
-        throw CannotRun("None of these lists has what is checked here.");
+        throw CannotRun("This check applies to none of these lists.");
     evidence.Table({"List", "Found", "Result"}, rows);
 }
 
@@ -150,13 +149,13 @@ void CheckLists(Record& record, const Scale& scale, const ListWorkplace& place) 
     std::vector<MadeList> lists;
     const auto ready = [&]() -> ListMaker& {
         if (!maker)
-            throw CannotRun("The program could not be brought on a display.");
+            throw CannotRun("The program could not be started on a display.");
         return *maker;
     };
     record.Run("USE-1.10", "USE-1", "Lists made through the windows", Chapter::Lists,
                [&](Evidence& evidence) {
                    if (std::getenv("ORVANE_DISPLAY_FOLDER") == nullptr)
-                       throw CannotRun("There is no display of its own to run the program on.");
+                       throw CannotRun("There is no separate display for the program.");
                    maker = std::make_unique<ListMaker>(place.Program, place.Evidence / ListFolder);
                    MakeLists(evidence, *maker, setups, lists);
                });
@@ -166,14 +165,14 @@ void CheckLists(Record& record, const Scale& scale, const ListWorkplace& place) 
                 throw CannotRun("No lists were made.");
             Judge(evidence, check, lists);
         });
-    record.Run("SET-2.10", "SET-2", "Settings through the windows and back", Chapter::Lists,
+    record.Run("SET-2.10", "SET-2", "Settings saved and loaded through the windows", Chapter::Lists,
                [&](Evidence& evidence) {
                    CheckSettingsFiles(evidence, ready(),
                                       LoadedSetups(setups, static_cast<std::size_t>(scale.Of(4, 1))));
                });
     record.Run("MSG-1.10", "MSG-1", "Refusals in the windows", Chapter::Lists,
                [&](Evidence& evidence) { CheckRefusals(evidence, ready()); });
-    record.Run("USE-1.11", "USE-1", "Commands by the keyboard alone", Chapter::Lists,
+    record.Run("USE-1.11", "USE-1", "Commands by keyboard only", Chapter::Lists,
                [&](Evidence& evidence) { CheckCommandsByKeys(evidence, ready()); });
 }
 

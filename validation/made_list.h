@@ -1,4 +1,4 @@
-// A list that the program made, with all that was seen of it.
+// A list that the program made, with everything observed about it.
 #pragma once
 
 #include "validation/list_reader.h"
@@ -10,12 +10,11 @@
 
 namespace orvane::validation {
 
-/// What the output window was seen to do with its list.
+/// What was observed of the output window.
 struct WindowSeen {
-    std::string Text; ///< in the window, lines ended by LF
-    std::vector<std::string>
-        TemporaryFiles;                  ///< beside the program while the window is open, with their rights
-    std::vector<std::string> LeftBehind; ///< of these after it is closed
+    std::string Text;                        ///< in the window, lines ended by LF
+    std::vector<std::string> TemporaryFiles; ///< while the window is open, with their permissions
+    std::vector<std::string> LeftBehind;     ///< those that still exist after it is closed
 };
 
 struct MadeList {
@@ -23,12 +22,11 @@ struct MadeList {
     std::string NotMade; ///< why there is no list; empty if there is one
     std::string Bytes;
     std::optional<WindowSeen> Window;
-    std::string RunsMessage; ///< lines ended by LF; empty if there was none
-    std::vector<std::string>
-        Viewer;       ///< what was started with the finished file: the viewer and its arguments
-    std::string File; ///< whole path that was given for a file
+    std::string RunsMessage;         ///< lines ended by LF; empty if there was none
+    std::vector<std::string> Viewer; ///< the viewer that was started, and its arguments
+    std::string File;                ///< full path entered for a file
 
-    std::string Unreadable;                   ///< why the bytes are no list; empty if they are one
+    std::string Unreadable;                   ///< why the bytes could not be read as a list; else empty
     std::vector<BlockTable> Tables;           ///< as printed
     std::vector<std::vector<Subject>> Blocks; ///< down the columns
 

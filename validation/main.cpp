@@ -1,4 +1,4 @@
-// Checks the delivered program and writes the record of it.
+// Checks the delivered program and writes the record of validation.
 #include "validation/arguments.h"
 #include "validation/concealment.h"
 #include "validation/conclusion.h"
@@ -45,14 +45,14 @@ void RunChecks(Record& record, const Scale& scale, const ListWorkplace& place) {
     CheckListChecks(record, scale);
 }
 
-/// What the checks have left in the folder of the record.
+/// The evidence files that the checks have put into the folder of the record.
 std::vector<Row> EvidenceIn(const fs::path& folder) {
     std::vector<Row> files = FilesBelow(folder);
     std::erase_if(files, [](const Row& file) { return file[0] == UnfinishedMark; });
     return files;
 }
 
-/// Prints the page as it stands before this check, to learn whether the finished one can be printed.
+/// Prints the page as it is before this check, to find out whether the finished page can be printed.
 void CheckPrinting(Record& record, const Run& run, const fs::path& work) {
     record.Run("USE-3.1", "USE-3", "The record is printed to PDF on A4", Chapter::KnownAnswers,
                [&](Evidence& evidence) {

@@ -1,5 +1,5 @@
-// A desktop in memory, for checks that call the program's routines without its windows: it answers at once,
-// keeps what it was given, and hands out the random values that a check lists.
+// A desktop in memory, for checks that call the program's routines without its windows: it never waits,
+// stores what it receives, and supplies the random values that a check lists.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -26,7 +26,7 @@ using Texts = std::vector<std::string>;
 class MemoryNames : public MSFlexGrid {
   public:
     explicit MemoryNames(Texts names) : names_(std::move(names)) {}
-    /// The names of the groups from now on.
+    /// Sets the names of the groups.
     void Name(Texts names) { names_ = std::move(names); }
 
     [[nodiscard]] std::int16_t Rows() const override { return static_cast<std::int16_t>(names_.size() + 1); }
@@ -47,14 +47,14 @@ class MemoryNames : public MSFlexGrid {
     std::int16_t row_ = 1;
 };
 
-/// Keeps the messages.
+/// Stores the messages.
 class KeptMessages : public MessageBox {
   public:
     void Show(const std::string& text) override { Shown.push_back(text); }
     void ShowExclamation(const std::string& text, const std::string& /*title*/) override {
         Shown.push_back(text);
     }
-    /// The messages since the last call, joined by " / ", line ends written as " | ".
+    /// Returns the messages since the last call, joined by " / ", with line ends written as " | ".
     std::string Take();
 
     Texts Shown;
@@ -66,7 +66,7 @@ class NoPointer : public MousePointer {
     void ShowNormal() override {}
 };
 
-/// The options window with what stands in its fields; keeps where the focus went.
+/// The options window with given texts in its fields; stores which field got the focus.
 class FilledInOptions : public OptionsControls {
   public:
     void FocusEqBlockSizeTxt() override { Focus = "EqBlockSizeTxt"; }
@@ -82,13 +82,13 @@ class FilledInOptions : public OptionsControls {
     std::string Focus;
 };
 
-/// Always the same time.
+/// A clock that always gives the same time.
 class StoppedClock : public TimeOfDay {
   public:
     float SecondsSinceMidnight() override { return 43200.5F; }
 };
 
-/// Bytes that count up from `first`: a key that is known, for calculations that are done twice.
+/// Gives bytes that count up from `first`: a known key, so that a calculation can be repeated.
 class KnownEntropy : public Entropy {
   public:
     explicit KnownEntropy(std::uint8_t first = 0) : next_(first) {}
@@ -101,13 +101,13 @@ class KnownEntropy : public Entropy {
     std::uint8_t next_;
 };
 
-/// An operating system that gives no randomness.
+/// An operating system without random data.
 class NoEntropy : public Entropy {
   public:
     void Fill(std::span<std::byte> bytes) override;
 };
 
-/// Hands out the values that a check lists, then 0 for ever.
+/// Supplies the values that a check lists, then always 0.
 class ListedValues : public UniformSource {
   public:
     explicit ListedValues(std::vector<float> values = {}) : Values(std::move(values)) {}
@@ -128,7 +128,7 @@ class ListedValues : public UniformSource {
 /// A value for which a draw from `Lo` to `Hi` gives `wanted`.
 float ValueFor(int Lo, int Hi, int wanted);
 
-/// Files by their path.
+/// Files in memory, by path.
 class MemoryFiles : public Files {
   public:
     std::unique_ptr<WritableFile> OpenForOutput(const std::string& path) override;
@@ -141,7 +141,7 @@ class MemoryFiles : public Files {
     std::map<std::string, std::string> Contents;
 };
 
-/// Every type has a program; none is started.
+/// Every file type has an associated program; none is started.
 class NoPrograms : public Shell32 {
   public:
     std::int32_t FindExecutableA(const std::string& /*path*/, std::string& program) override {
@@ -201,7 +201,7 @@ class EmptyRegistry : public Registry {
     static constexpr std::int32_t NotFound = 2;
 };
 
-/// All parts together. Text leaves it in Windows-1252.
+/// All parts together. The code page is Windows-1252.
 struct MemoryDesktop {
     explicit MemoryDesktop(UniformSource& random);
 

@@ -16,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* UnfinishedText =
-    "A validation is at work here, or was stopped before its end. There is no record of it.\n";
+    "A validation is running in this folder, or was stopped before it had finished. It has no record.\n";
 constexpr const char* Records[] = {"validation-record.json", "validation-record.htm",
                                    "validation-record.pdf"};
 
@@ -57,11 +57,12 @@ void RemoveQuietly(const fs::path& path) {
 OutputFolder::OutputFolder(const fs::path& path) : path_(fs::absolute(path)) {
     fs::create_directories(path_);
     if (!fs::is_empty(path_) && !HoldsValidation(path_))
-        throw std::runtime_error(path_.string() +
-                                 " holds files that are no validation; please name another folder.");
+        throw std::runtime_error(
+            path_.string() +
+            " contains files that do not belong to a validation; please name another folder.");
     for (const char* record : Records)
         fs::remove(path_ / record);
-    // The mark stays until the end, so that a folder that was left half empty can be used again.
+    // The mark is removed last, so that a folder that was only partly emptied can be used again.
     WriteWhole(path_ / UnfinishedMark, UnfinishedText);
     std::vector<fs::path> old;
     for (const fs::directory_entry& entry : fs::directory_iterator(path_))

@@ -13,15 +13,16 @@ inline constexpr const char* UnfinishedMark = "unfinished.txt";
 /// While a validation runs, the folder holds the mark above and no record.
 class OutputFolder {
   public:
-    /// Makes the folder, or empties the one of an earlier validation, its record first. Throws
-    /// std::runtime_error with nothing removed when the folder holds anything else, and when it cannot be
+    /// Creates the folder, or empties that of an earlier validation, its record first. Throws
+    /// std::runtime_error if the folder contains anything else, before removing anything, or if it cannot be
     /// emptied or written to.
     explicit OutputFolder(const std::filesystem::path& path);
 
     [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
 
-    /// The record appears: all files, by name and content, are written under other names first and renamed
-    /// when every byte is on the disk. Throws std::runtime_error when that fails; none of them is then there.
+    /// Writes the record: `files` maps names to contents. All files are first written under temporary names,
+    /// and renamed when every byte is on the disk. Throws std::runtime_error on failure, and then none of the
+    /// files exists.
     void Finish(const std::map<std::string, std::string>& files) const;
 
   private:

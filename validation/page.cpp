@@ -34,12 +34,11 @@ std::string ConclusionBox(const Record& record) {
 std::string QuickBox(const Run& run) {
     if (!run.Quick)
         return "";
-    return "<p class=\"quick\">Quick form: smaller samples and fewer lists than a full validation. It shows "
-           "that the "
-           "installation works; file the full form.</p>\n";
+    return "<p class=\"quick\">Quick validation, with smaller samples and fewer lists than a full one. It "
+           "shows that the installation works. File the record of a full validation.</p>\n";
 }
 
-/// What a reader wants to know first, without the details of the identity chapter.
+/// The most important facts of the identity chapter.
 std::string KeyFacts(const Run& run) {
     const std::vector<Row> rows{{"Program", run.What.Program + " " + run.What.Version},
                                 {"Commit and tree", run.What.Commit + ", " + run.What.Tree},
@@ -87,14 +86,14 @@ std::string Contents() {
 
 std::string RecordPage(const Record& record, const Run& run) {
     const std::string title = Escaped(Title(run));
-    const std::string footer = title + (run.Quick ? ", quick form, " : ", ") + run.What.Started.substr(0, 10);
+    const std::string footer =
+        title + (run.Quick ? ", quick validation, " : ", ") + run.What.Started.substr(0, 10);
     return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
            title + "</title>\n<style>" + PageStyle(footer) + "</style>\n</head>\n<body>\n<header>\n<h1>" +
            title +
-           "</h1>\n<p class=\"subtitle\">Documented evidence that the program does what a randomized trial "
-           "needs of "
-           "it, made on the machine on which it is used.</p>\n" +
+           "</h1>\n<p class=\"subtitle\">Documented evidence that the program meets the requirements of a "
+           "randomized trial, produced on the machine on which the program is used.</p>\n" +
            ConclusionBox(record) + QuickBox(run) + KeyFacts(run) + OutcomeTable(record) + "</header>\n" +
            Contents() + "<main>\n" + AllChapters(record, run) + "</main>\n</body>\n</html>\n";
 }

@@ -19,7 +19,7 @@ struct Run {
 /// The whole record as one HTML page that needs no other file.
 std::string RecordPage(const Record& record, const Run& run);
 
-/// The style sheet of the page, in page_style.cpp. `footer` stands at the foot of every printed page.
+/// The style sheet of the page, in page_style.cpp. `footer` is printed at the foot of every page.
 std::string PageStyle(const std::string& footer);
 
 } // namespace orvane::validation

@@ -22,7 +22,7 @@ std::string FilesTable(const std::vector<Row>& files, const std::string& caption
 
 std::string LibrariesTable(const Identity& what) {
     if (what.Libraries.empty())
-        return "<p>The libraries that the program loads could not be told.</p>\n";
+        return "<p>The libraries that the program loads could not be determined.</p>\n";
     std::string rows;
     for (const Row& library : what.Libraries)
         rows += "<tr><td>" + Escaped(library[0]) + "</td><td>" + Escaped(library[1]) + "</td><td>" +
@@ -54,9 +54,8 @@ std::string RequirementRow(const Record& record, const Requirement& requirement)
 }
 
 std::string RequirementsChapter(const Record& record) {
-    std::string html =
-        "<p>Each requirement keeps its identifier from version to version. The groups stand in the "
-        "order of their risk to a trial, the gravest first.</p>\n";
+    std::string html = "<p>Each requirement keeps its identifier from version to version. The groups are in "
+                       "the order of their risk to a trial, the most serious first.</p>\n";
     for (const RequirementGroup& group : AllRequirements()) {
         html += "<h3>" + group.Name + "</h3>\n<p>" + group.Risk +
                 "</p>\n<table><caption>Requirements: " + group.Name + "</caption>\n<thead><tr>" +
@@ -115,25 +114,22 @@ std::string ConclusionChapter(const Record& record, const Run& run) {
            "<h3>Signatures</h3>\n" + Signatures();
 }
 
-constexpr const char* KnownAnswersIntro = "Cases whose right answer is known beforehand. Each stands here "
-                                          "with the answer that was expected, the one that "
-                                          "was observed, and where the expected one comes from.";
+constexpr const char* KnownAnswersIntro =
+    "Cases whose correct answer is known in advance. Each row shows the expected answer, the observed "
+    "answer, and the source of the expected answer.";
 constexpr const char* ListsIntro =
-    "Lists that the delivered program made through its own windows. Each was read back from its bytes by a "
-    "reader "
-    "that shares no code with the program's reports. The lists are kept beside this record.";
-constexpr const char* StatisticsIntro = "Samples of what the program draws, compared with the distribution "
-                                        "that they must have. The P value is the chance "
-                                        "that a right program gives a sample at least as far from it. The "
-                                        "acceptance limits are so low that all the "
-                                        "limits of this record together raise a false alarm in fewer than "
-                                        "one of 10,000 records. The samples come from "
-                                        "the program's own libraries, linked to the validation.";
+    "Lists that the delivered program made through its own windows. Each list was read back from its bytes "
+    "by code that shares nothing with the program's reports. The lists are kept with this record.";
+constexpr const char* StatisticsIntro =
+    "Samples of the program's random draws, compared with the distribution that they must have. The P value "
+    "is the probability that a correct program gives a sample that differs from this distribution at least "
+    "as much. The acceptance limits are so low that a correct program fails any of them in fewer than one of "
+    "10,000 records. The samples come from the program's own libraries, which are linked to the validation.";
 constexpr const char* ConcealmentIntro =
-    "How well the next assignment can be guessed, and what the secrecy of the draws rests on.";
-constexpr const char* ChecksIntro = "Each statistic and each reader of lists was also run on something that "
-                                    "is wrong on purpose. A check of this "
-                                    "chapter passes when the fault was found.";
+    "How well the next assignment can be guessed, and what keeps the draws secret.";
+constexpr const char* ChecksIntro =
+    "The statistics and the checks of lists were also run on programs and lists with deliberate faults. A "
+    "check of this chapter passes if it finds the fault.";
 
 std::string ChapterHtml(std::size_t number, const std::string& content) {
     const ChapterHead& head = ChapterHeads().at(number - 1);

@@ -22,13 +22,13 @@ std::string AllChapters(const Record& record, const Run& run);
 /// A table of names and values.
 std::string FactsTable(const std::vector<Row>& rows, const std::string& caption);
 
-/// The identifier of a check as a link to it.
+/// The identifier of a check, as a link to the check.
 std::string CheckLink(const Check& check);
 
-/// What no check of this record can show, as a list.
+/// A list of what the checks of this record do not cover.
 std::string NotCovered();
 
-/// Lines for names, dates and signatures.
+/// A table with space for names, dates and signatures.
 std::string Signatures();
 
 } // namespace orvane::validation

@@ -5,29 +5,24 @@ namespace orvane::validation {
 namespace {
 
 constexpr const char* Limits[] = {
-    "The randomness that the operating system gives. The record shows that the program asks for it and makes "
-    "no list "
-    "without it, not that it is unpredictable.",
-    "The statistics and the concealment are those of the program's libraries, built from the commit named "
-    "above and "
-    "linked to the validation. The lists of chapter 4 are those of the delivered program file itself. "
-    "Chapter 1 says "
-    "whether that file was built from the same commit.",
-    "The delivered program has no switch that reveals its draws, so the distribution of draws cannot be "
-    "sampled through "
-    "its windows in this number.",
-    "The programs of the desktop that show, edit or print a finished list, and what they make of it.",
-    "Other machines, operating systems, desktops, languages and versions of the libraries than those named "
-    "in chapter "
-    "1. The lists were made under the desktop that chapter 4 names; file prompts of other desktops were not "
+    "Whether the random data of the operating system is unpredictable. The record shows only that the "
+    "program uses it and makes no list without it.",
+    "The statistics and the concealment of the delivered program file itself. These checks use the program's "
+    "libraries, built from the commit named in chapter 1 and linked to the validation. Only the lists of "
+    "chapter 4 come from the delivered program file. Chapter 1 states whether that file was built from the "
+    "same commit.",
+    "Samples of this size drawn through the windows of the delivered program, which has no switch that "
+    "reveals its draws.",
+    "The programs of the desktop that show, edit or print a finished list.",
+    "Machines, operating systems, desktops, languages and library versions other than those named in chapter "
+    "1. The lists were made under the desktop named in chapter 4; file prompts of other desktops were not "
     "opened.",
     "What happens to a list after the program has written it: who can read the folder, how it reaches the "
     "trial, and "
-    "whether subjects are given the treatment that stands in it.",
+    "whether subjects are given the treatment that the list assigns to them.",
     "Whether the chosen groups, sample size and block option suit the protocol of a trial.",
-    "Faults that show only under conditions that no check makes, such as damaged memory or a changed program "
-    "file. The "
-    "SHA-256 sums of chapter 1 tell whether the files are still the same.",
+    "Faults that occur only under conditions that no check creates, such as damaged memory or a changed "
+    "program file. The SHA-256 sums of chapter 1 show whether the files are still the same.",
 };
 
 std::string SignatureRow(const std::string& role) {

@@ -25,7 +25,7 @@ std::string At(const char* name, double value) {
     return std::string(" ") + name + "='" + Fixed(value, 1) + "'";
 }
 
-/// The values at which an axis is marked.
+/// The scale of an axis and its tick marks.
 struct Scaling {
     double Low = 0;
     double High = 1;
@@ -45,7 +45,7 @@ struct Scaling {
     }
 };
 
-/// About five steps of 1, 2 or 5 times a power of ten that cover `low` to `high`.
+/// A scale that covers `low` to `high` in about five steps of 1, 2 or 5 times a power of ten.
 Scaling RoundScaling(double low, double high) {
     if (high - low < 1e-12)
         high = low + 1;
@@ -103,7 +103,7 @@ void DrawFrame(Drawing& drawing) {
     drawing.Line(Left, Bottom, Right, Bottom, 1);
 }
 
-/// The labels under the bars. The height that they take.
+/// Draws the labels under the bars and returns their height.
 double DrawBarLabels(Drawing& drawing, const std::vector<Bar>& bars) {
     std::size_t longest = 1;
     for (const Bar& bar : bars)
@@ -125,7 +125,7 @@ double DrawBarLabels(Drawing& drawing, const std::vector<Bar>& bars) {
     return slanted ? 14 + labelWidth * 0.65 : 16;
 }
 
-/// A heavy line across the slot of a bar, with a white edge so that it shows on the bar too.
+/// A heavy line across the slot of a bar, with a white edge so that it is visible on the bar too.
 void DrawExpected(Drawing& drawing, double x1, double x2, double y) {
     drawing.Add("<line" + At("x1", x1) + At("y1", y) + At("x2", x2) + At("y2", y) +
                 " stroke='#fff' stroke-width='3.4'/>");
@@ -143,7 +143,7 @@ void DrawBarLegend(Drawing& drawing) {
 constexpr std::size_t Kinds = 6;
 constexpr std::array<const char*, Kinds> Dashes{"", "6 3", "2 3", "8 3 2 3", "12 4", "4 2 1 2 1 2"};
 
-/// Filled and open circles, squares and triangles.
+/// Draws a filled or open circle, square or triangle.
 void DrawMarker(Drawing& drawing, std::size_t kind, double x, double y) {
     const std::string fill = kind % 2 == 0 ? "#000" : "#fff";
     const std::string paint = " fill='" + fill + "' stroke='#000'/>";
@@ -160,7 +160,7 @@ std::string DashOf(std::size_t kind) {
     return dash.empty() ? "" : " stroke-dasharray='" + dash + "'";
 }
 
-/// One entry under the other, below the plot. The height that they take.
+/// Draws the legend below the plot, one entry a line, and returns its height.
 double DrawLegend(Drawing& drawing, const std::vector<Series>& series, double top) {
     constexpr double line = 17;
     for (std::size_t kind = 0; kind < series.size(); ++kind) {
@@ -172,7 +172,7 @@ double DrawLegend(Drawing& drawing, const std::vector<Series>& series, double to
     return line * static_cast<double>(series.size());
 }
 
-/// From the lowest to the highest of the numbers; from 0 when that does not waste half of the plot.
+/// A scale from the lowest to the highest value, or from 0 if that wastes less than half of the plot.
 Scaling ScalingOf(const std::vector<Series>& series, bool vertical) {
     double low = std::numeric_limits<double>::max();
     double high = std::numeric_limits<double>::lowest();
@@ -195,7 +195,7 @@ void DrawSeries(Drawing& drawing, const Series& line, std::size_t kind, const Sc
         points += Fixed(OnAxis(across, x, Left, Right), 1) + ',' + Fixed(OnAxis(up, y, Bottom, Top), 1) + ' ';
     drawing.Add("<polyline fill='none' stroke='#000' stroke-width='1.4' points='" + points + "'" +
                 DashOf(kind) + "/>");
-    // Markers would hide a curve of many points.
+    // With many points, a marker at each would hide the curve.
     const std::size_t every = 1 + line.Points.size() / 25;
     for (std::size_t i = 0; i < line.Points.size(); i += every)
         DrawMarker(drawing, kind % Kinds, OnAxis(across, line.Points[i].first, Left, Right),
@@ -216,7 +216,7 @@ std::string BarChart(const std::string& title, const std::string& xLabel, const 
     Drawing drawing;
     DrawVerticalAxis(drawing, up, yLabel);
     const double slot = (Right - Left) / static_cast<double>(bars.size());
-    // Outlines would make many narrow bars one black field.
+    // With outlines, many narrow bars would look like one black area.
     const std::string paint = slot < 8 ? " fill='#999'/>" : " fill='#bbb' stroke='#000' stroke-width='0.7'/>";
     for (std::size_t i = 0; i < bars.size(); ++i) {
         const double left = Left + static_cast<double>(i) * slot;

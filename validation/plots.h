@@ -1,5 +1,6 @@
-// Plots as SVG: each routine gives one whole svg element that needs nothing from outside it, at most 640
-// wide. Told apart by outline, dash and marker, never by colour, so that a black and white print shows all.
+// Plots as SVG. Each routine returns one complete, self-contained svg element, at most 640 units wide. Series
+// differ by outline, dash and marker, never by colour alone, so that they can be distinguished in black and
+// white.
 #pragma once
 
 #include <optional>
@@ -15,18 +16,20 @@ struct Bar {
     std::optional<double> Expected; ///< 0 or above; drawn as a heavy line across the bar
 };
 
-/// Bars from zero up. Where the labels of all bars find no room, every n-th is printed. `title` is what a
-/// screen reader says of the plot. Requires: at least one bar.
+/// A bar chart; the axis starts at 0. If there is no room for the labels of all bars, only every n-th is
+/// printed. Screen readers read `title`.
+/// Requires: at least one bar.
 std::string BarChart(const std::string& title, const std::string& xLabel, const std::string& yLabel,
                      const std::vector<Bar>& bars);
 
 struct Series {
     std::string Name;
-    std::vector<std::pair<double, double>> Points; ///< x and y, x rising
+    std::vector<std::pair<double, double>> Points; ///< x and y, sorted by x
 };
 
-/// Lines through the points of up to six series, each with a dash and a marker of its own, and a legend when
-/// there are several. Requires: at least one point in all.
+/// A line chart of up to six series, each with its own dash and marker, with a legend if there are several
+/// series.
+/// Requires: at least one point in total.
 std::string LineChart(const std::string& title, const std::string& xLabel, const std::string& yLabel,
                       const std::vector<Series>& series);
 

@@ -9,7 +9,7 @@
 namespace orvane::validation {
 namespace {
 
-/// The first browser that starts; empty without one.
+/// The name of the first browser that can be started; empty if none can.
 std::string Browser() {
     for (const char* name : {"chromium", "chromium-browser", "google-chrome"})
         if (Ask({name, "--version"}).ExitCode == 0)
@@ -27,15 +27,15 @@ std::string PrintedPage(const std::string& page, const std::filesystem::path& wo
     const std::filesystem::path pdf = work / "record.pdf";
     std::filesystem::remove(pdf);
     WriteWhole(html, page);
-    // The page is our own, so the browser's sandbox, which root cannot have, protects nothing here.
+    // The browser's sandbox does not work for root and is not needed: the page comes from this program.
     const ProgramAnswer answer =
         Ask({browser, "--headless", "--no-sandbox", "--disable-gpu", "--no-pdf-header-footer",
              "--generate-pdf-document-outline", "--user-data-dir=" + (work / "profile").string(),
              "--print-to-pdf=" + pdf.string(), "file://" + html.string()},
             120);
     if (!std::filesystem::exists(pdf))
-        throw std::runtime_error("Chromium printed nothing (exit code " + std::to_string(answer.ExitCode) +
-                                 ").");
+        throw std::runtime_error("Chromium did not print the record (exit code " +
+                                 std::to_string(answer.ExitCode) + ").");
     std::string printed = ReadWhole(pdf);
     if (PagesOf(printed) == 0)
         throw std::runtime_error("Chromium did not finish the PDF.");

@@ -1,4 +1,4 @@
-// The page on paper.
+// Printing of the page to PDF.
 #pragma once
 
 #include <filesystem>
@@ -6,11 +6,11 @@
 
 namespace orvane::validation {
 
-/// `page` printed to PDF by the browser of this machine, which works in the folder `work`. Throws CannotRun
-/// when there is no such browser, and std::runtime_error when it gives no whole PDF.
+/// Prints `page` to PDF with Chromium, which uses the folder `work`, and returns the PDF. Throws CannotRun if
+/// Chromium is not installed, and std::runtime_error if the PDF is not complete.
 std::string PrintedPage(const std::string& page, const std::filesystem::path& work);
 
-/// The pages of a PDF as Chromium writes it; 0 when it is none.
+/// The number of pages of a PDF that Chromium wrote; 0 if `pdf` is not a PDF.
 int PagesOf(const std::string& pdf);
 
 } // namespace orvane::validation

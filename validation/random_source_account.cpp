@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t Values = 10000;
 
-/// Hands on the randomness of the operating system and counts what was asked for.
+/// Passes on the operating system's random bytes and counts the requests.
 class CountedEntropy : public Entropy {
   public:
     void Fill(std::span<std::byte> bytes) override {
@@ -28,7 +28,7 @@ class CountedEntropy : public Entropy {
     LinuxEntropy system_;
 };
 
-/// A key of zeros with one bit set, or none for a bit of -1.
+/// Gives a key of zeros with one bit set, or with none if `bit` is -1.
 class OneBit : public Entropy {
   public:
     explicit OneBit(int bit) : bit_(bit) {}
@@ -49,8 +49,8 @@ std::vector<float> Next(RandomSource& source) {
     return values;
 }
 
-/// Places at which two samples have the same value. By chance 0.0006 are expected, and three or more come up
-/// in fewer than one of a thousand million.
+/// The number of positions at which two samples have the same value. By chance 0.0006 are expected; three or
+/// more have a probability below 1e-9.
 std::size_t Same(const std::vector<float>& a, const std::vector<float>& b) {
     std::size_t same = 0;
     for (std::size_t at = 0; at < a.size(); ++at)
@@ -60,11 +60,12 @@ std::size_t Same(const std::vector<float>& a, const std::vector<float>& b) {
 constexpr std::size_t MostSame = 2;
 
 void CheckKey(Record& record) {
-    record.Run("CON-1.9", "CON-1", "The key is 256 bits of the operating system, and each bit of it counts",
+    record.Run("CON-1.9", "CON-1",
+               "The key is 256 bits from the operating system, and each bit changes the values",
                Chapter::Concealment, [](Evidence& evidence) {
                    CountedEntropy entropy;
                    RandomSource source(entropy);
-                   evidence.Compare("Bytes taken before the first value is asked for", "0",
+                   evidence.Compare("Bytes taken before the first value is requested", "0",
                                     std::to_string(entropy.Bytes));
                    Next(source);
                    source.UniformReseed(0);
@@ -84,16 +85,17 @@ void CheckKey(Record& record) {
                    }
                    evidence.Demand(most <= MostSame, "A key that differs in one bit gives " +
                                                          std::to_string(most) + " equal values of 10,000.");
-                   evidence.Paragraph("Keys that differ in one bit, each of the 256 in turn, gave at most " +
-                                      std::to_string(most) +
-                                      " equal values of 10,000 at the same place; at most " +
-                                      std::to_string(MostSame) + " were accepted.");
+                   evidence.Paragraph(
+                       "Each of the 256 bits of a key was changed in turn. With the changed keys, at most " +
+                       std::to_string(most) +
+                       " of 10,000 values were equal to the value at the same position; at most " +
+                       std::to_string(MostSame) + " were accepted.");
                });
 }
 
 void CheckReseed(Record& record) {
     record.Run(
-        "CON-6.9", "CON-6", "A reseed with a known value opens no way to the values before or after it",
+        "CON-6.9", "CON-6", "A reseed with a known value does not reveal the values before or after it",
         Chapter::Concealment, [](Evidence& evidence) {
             OneBit none(-1);
             OneBit one(0);
@@ -109,56 +111,49 @@ void CheckReseed(Record& record) {
             first.UniformReseed(43200.5F);
             const std::vector<float> again = Next(first);
             evidence.Demand(Same(again, after) <= MostSame && Same(again, before) <= MostSame,
-                            "A second reseed with the same value leads back to values from before.");
+                            "A second reseed with the same value repeats earlier values.");
             evidence.Paragraph(
-                "Two sources with different keys were given the same time of day and had at most " +
+                "Two sources with different keys were reseeded with the same time of day. At most " +
                 std::to_string(MostSame) +
-                " of 10,000 values in common, as had one source before a reseed, after it, and "
-                "after a second one with the same time.");
+                " of their 10,000 values were equal at the same position. The same was true of one source "
+                "before a reseed, after it, and after a second reseed with the same time.");
         });
 }
 
 void Explain(Record& record) {
-    record.Run("CON-6.8", "CON-6", "What the source of the draws rests on", Chapter::Concealment,
-               [](Evidence& evidence) {
-                   LinuxEntropy system;
-                   RandomSource one(system);
-                   RandomSource other(system);
-                   const std::size_t same = Same(Next(one), Next(other));
-                   evidence.Demand(same <= MostSame, "Two starts of the source have " + std::to_string(same) +
-                                                         " of 10,000 values in common.");
-                   evidence.Paragraph(
-                       "The key. At its first use the source takes 256 bits from the operating system's "
-                       "random generator. If "
-                       "there are none, no list is made; there is no weaker start. No key is saved, so no "
-                       "list can be made "
-                       "again, and two starts of the program have nothing in common (observed: " +
-                       std::to_string(same) + " of 10,000 values equal, at most " + std::to_string(MostSame) +
-                       " accepted).");
-                   evidence.Paragraph("The values. ChaCha with 8 rounds, the cipher of D. J. Bernstein, is "
-                                      "run over a counter, and every "
-                                      "choice of the program is made from its output. Whoever has seen any "
-                                      "number of assignments, block sizes "
-                                      "and codes has seen values that are spent; to find the next one is to "
-                                      "break the cipher, for which no "
-                                      "way better than trying the 2^256 keys is known.");
-                   evidence.Paragraph("The time of day. It is mixed in before each block, each list of block "
-                                      "sizes and each random code. It is no "
-                                      "secret and is not needed as one: the new key is a block of the cipher "
-                                      "under the old key, so knowing "
-                                      "or choosing the time does not help to guess it, and reading the "
-                                      "program's memory after a reseed "
-                                      "does not tell what was drawn before it.");
-                   evidence.Paragraph("What this rests on. That the operating system's random generator is "
-                                      "sound, that the output of ChaCha with "
-                                      "8 rounds cannot be told from random, and that nobody reads the memory "
-                                      "of the running program or the "
-                                      "finished list. The same cipher with 20 rounds protects much of "
-                                      "today's encrypted traffic; the best "
-                                      "published attacks reach 7 rounds. The third point is up to those who "
-                                      "keep the machine and the "
-                                      "list.");
-               });
+    record.Run(
+        "CON-6.8", "CON-6", "What the security of the random source depends on", Chapter::Concealment,
+        [](Evidence& evidence) {
+            LinuxEntropy system;
+            RandomSource one(system);
+            RandomSource other(system);
+            const std::size_t same = Same(Next(one), Next(other));
+            evidence.Demand(same <= MostSame, "Two starts of the source have " + std::to_string(same) +
+                                                  " of 10,000 values in common.");
+            evidence.Paragraph(
+                "The key. At its first use the source takes 256 bits from the operating system's random "
+                "generator. If the operating system cannot supply them, no list is made; there is no weaker "
+                "substitute. No key is saved, so no list can be made a second time, and the values of two "
+                "starts of the program are independent (observed: " +
+                std::to_string(same) + " of 10,000 values equal, at most " + std::to_string(MostSame) +
+                " accepted).");
+            evidence.Paragraph("The values. The source encrypts a counter with ChaCha with 8 rounds, the "
+                               "cipher of D. J. Bernstein. Every random choice of the program is made from "
+                               "this output. Somebody who knows any number of earlier assignments, block "
+                               "sizes and codes cannot calculate the next value without breaking the cipher. "
+                               "No attack on it is known that is better than trying all 2^256 keys.");
+            evidence.Paragraph("The time of day. It is mixed into the key before each block, each list of "
+                               "block sizes and each random code. The time is not secret and need not be "
+                               "secret: the new key is a block of the cipher under the old key. So knowing "
+                               "or choosing the time does not help to guess the new key, and reading the "
+                               "program's memory after a reseed does not reveal what was drawn before it.");
+            evidence.Paragraph(
+                "Assumptions. First, the operating system's random generator is sound. Second, the output of "
+                "ChaCha with 8 rounds cannot be distinguished from random bits. Third, nobody reads the "
+                "memory of the running program or the finished list. The same cipher with 20 rounds protects "
+                "much of today's encrypted traffic; the best published attacks reach 7 rounds. The third "
+                "assumption is the responsibility of those who administer the machine and keep the list.");
+        });
 }
 
 } // namespace

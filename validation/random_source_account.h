@@ -1,4 +1,4 @@
-// What the source of the draws rests on.
+// Explains and checks what the security of the random source depends on.
 #pragma once
 
 #include "validation/record.h"

@@ -16,7 +16,7 @@ std::string HeadCells(const Row& head) {
     return "<thead><tr>" + cells + "</tr></thead>\n";
 }
 
-/// Whether the text is a short number, which no line break may cut.
+/// Whether the text is a short number, which must not be broken over two lines.
 bool IsFigure(const std::string& text) {
     constexpr std::size_t longest = 16;
     return text.size() <= longest && text.find_first_not_of("0123456789.,+-e%") == std::string::npos;
@@ -47,7 +47,7 @@ std::string BodyRow(const Row& row) {
     return "<tr>" + cells + "</tr>\n";
 }
 
-/// Tables of up to this many rows are not broken between pages.
+/// Tables of up to this many rows are kept on one page.
 constexpr std::size_t ShortTable = 12;
 
 std::string TableStart(std::size_t rows, const std::string& caption, const Row& head) {
@@ -149,7 +149,7 @@ void Record::Run(const std::string& identifier, const std::string& requirement, 
         done.Reasons = evidence.Faults();
         done.Outcome = done.Reasons.empty() ? Result::Passed : Result::Failed;
     } catch (const CannotRun& reason) {
-        // What was found wrong before stays a failure.
+        // A fault found before remains a failure.
         done.Outcome = evidence.Faults().empty() ? Result::NotRun : Result::Failed;
         done.Reasons = evidence.Faults();
         done.Reasons.emplace_back(reason.what());

@@ -1,4 +1,4 @@
-// What a validation finds: the checks with their results, and the evidence that each of them shows.
+// The findings of a validation: the checks with their results and their evidence.
 #pragma once
 
 #include <functional>
@@ -10,35 +10,36 @@ namespace orvane::validation {
 
 enum class Result { Passed, Failed, NotRun };
 
-/// Thrown inside a check that cannot be done on this machine, with the reason for the reader of the record.
+/// Thrown by a check that cannot be run on this machine. The text gives the reason to the reader of the
+/// record.
 struct CannotRun : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// A row of a table: the texts of its cells.
+/// The texts of the cells of a table row.
 using Row = std::vector<std::string>;
 
-/// What one check shows. Texts are plain; they are escaped for the page.
+/// The evidence of one check. All texts are plain text and are escaped for the page.
 class Evidence {
   public:
-    /// Notes what was expected beside what was observed. The check fails unless both are equal.
+    /// Records an expected and an observed value. The check fails unless they are equal.
     void Compare(const std::string& what, const std::string& expected, const std::string& observed,
                  const std::string& source = "");
-    /// The check fails, with `what` as one of its reasons, unless `right`.
+    /// If not `right`, the check fails with the reason `what`.
     void Demand(bool right, const std::string& what);
 
     void Paragraph(const std::string& text);
     void Table(const Row& head, const std::vector<Row>& rows,
                const std::string& caption = "Figures of this check");
-    /// `svg` is a whole svg element; `caption` stands below it.
+    /// Adds a plot. `svg` is a complete svg element; `caption` is printed below it.
     void Plot(const std::string& svg, const std::string& caption);
-    /// A file in the folder of the record that is kept as evidence.
+    /// Lists a file in the folder of the record as evidence.
     void File(const std::string& name);
 
     [[nodiscard]] const std::vector<std::string>& Faults() const { return faults_; }
-    /// Whether anything was compared or demanded. A check that looked at nothing has not passed.
+    /// Whether anything was compared or demanded. A check without that has not passed.
     [[nodiscard]] bool HasJudged() const { return judged_; }
-    /// The evidence as HTML, the comparisons as one table in front.
+    /// The evidence as HTML, beginning with one table of all comparisons.
     [[nodiscard]] std::string Html() const;
 
   private:
@@ -59,15 +60,15 @@ enum class Chapter { KnownAnswers, Lists, Statistics, Concealment, ChecksOfCheck
 
 struct Check {
     std::string Identifier;  ///< stays the same from version to version, such as "BLK-3.1"
-    std::string Requirement; ///< identifier of the requirement that it covers, such as "BLK-3"
+    std::string Requirement; ///< identifier of its requirement, such as "BLK-3"
     std::string Title;
     Chapter Place = Chapter::KnownAnswers;
     Result Outcome = Result::NotRun;
-    std::vector<std::string> Reasons; ///< of a failure, or why it was not run
+    std::vector<std::string> Reasons; ///< of the failure, or for not running it
     std::string Html;                 ///< its evidence
 };
 
-/// How much is done: a full validation takes a few minutes, a quick one about a minute.
+/// The size of the samples. A full validation takes a few minutes, a quick one about a minute.
 struct Scale {
     bool Quick = false;
     /// `full` in a full validation, else `quick`.
@@ -76,8 +77,8 @@ struct Scale {
 
 class Record {
   public:
-    /// Runs one check and keeps what came of it. CannotRun makes it "not run"; any other exception makes it
-    /// "failed". Shows one line of progress on the standard output.
+    /// Runs one check and stores its result. The result is "not run" if the check throws CannotRun, and
+    /// "failed" for any other exception. Prints one line of progress to the standard output.
     void Run(const std::string& identifier, const std::string& requirement, const std::string& title,
              Chapter place, const std::function<void(Evidence&)>& check);
 

@@ -1,4 +1,4 @@
-// What the program must do, in the words of a trial statistician.
+// The requirements of the program, in a trial statistician's terms.
 #pragma once
 
 #include <string>
@@ -14,11 +14,11 @@ struct Requirement {
 /// Requirements of one kind of risk.
 struct RequirementGroup {
     std::string Name;
-    std::string Risk; ///< what a fault here would do to a trial, one sentence
+    std::string Risk; ///< effect of a fault on a trial, one sentence
     std::vector<Requirement> Requirements;
 };
 
-/// All requirements, the gravest risk first.
+/// All requirements, in the order of their risk, the most serious first.
 const std::vector<RequirementGroup>& AllRequirements();
 
 } // namespace orvane::validation

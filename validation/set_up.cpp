@@ -58,7 +58,7 @@ void SetUp::Load(const fs::path& file) {
     user_.Answer(desktop_.Await(driving::LoadSettingsTitle), file.string());
     const driving::Message message = user_.AwaitMessage();
     if (message.Text != "Settings were loaded successfully!")
-        throw driving::Fault("the message at the load of settings: " + message.Text);
+        throw driving::Fault("the message after loading settings: " + message.Text);
     user_.Confirm(message);
 }
 
@@ -68,7 +68,7 @@ void SetUp::Save(const fs::path& file) {
     user_.Answer(desktop_.Await(driving::SaveSettingsTitle), file.string());
     const driving::Message message = user_.AwaitMessage();
     if (message.Text != "Settings were saved successfully!")
-        throw driving::Fault("the message at the save of settings: " + message.Text);
+        throw driving::Fault("the message after saving settings: " + message.Text);
     user_.Confirm(message);
 }
 

@@ -1,4 +1,4 @@
-// Ways to give the program the set-up of a list through its windows.
+// Enters the set-up of a list through the windows of the program.
 #pragma once
 
 #include "tools/tour/user.h"
@@ -7,24 +7,24 @@
 
 namespace orvane::validation {
 
-/// Gives the program set-ups, up to the "OK" of the options window. A Fault leaves the program as it stands.
+/// Enters set-ups, up to "OK" in the options window. After a Fault the program is left as it is.
 class SetUp {
   public:
     SetUp(driving::Desktop& desktop, driving::User& user)
         : desktop_(desktop), user_(user), keys_(desktop, user) {}
 
-    /// Requires: the main window has the keys.
+    /// Requires: the main window has the keyboard focus.
     void Give(const ListSetup& setup);
-    /// Reads a settings file into the program.
+    /// Loads a settings file.
     void Load(const std::filesystem::path& file);
-    /// Writes a settings file from the program; one that is there already is deleted before.
+    /// Saves a settings file. An existing file is deleted first.
     void Save(const std::filesystem::path& file);
 
   private:
     void TypeMainWindow(const ListSetup& setup);
     void TypeOptions(const ListSetup& setup);
     void ClickOptions(const ListSetup& setup);
-    /// What no settings file holds.
+    /// Sets what is not in a settings file.
     void SetFormatAndStatistics(const ListSetup& setup);
 
     driving::Desktop& desktop_;

@@ -39,12 +39,12 @@ class StatisticsChecks {
         ShowVerdict(evidence, hypothesis, sample, verdict);
     }
 
-    /// All arrangements of one kind of block.
+    /// Checks all arrangements of one kind of block.
     void CheckArrangementsOf(const std::string& identifier, int size, int groups, int blocks);
 
     Record& record_;
     const Scale& scale_;
-    double alarms_ = 0; ///< the chance of a false alarm of all statistics so far
+    double alarms_ = 0; ///< sum of the probabilities of a false alarm so far
     LinuxEntropy entropy_;
     LinuxClock clock_;
     DeliveredProgram program_{entropy_, clock_};
@@ -73,17 +73,16 @@ void StatisticsChecks::CheckArrangements() {
     });
     Run("ASG-5.1", "Number of runs of a block of 20", [&](Evidence& evidence) {
         Show(evidence,
-             "the number of runs of a block of 20 with 2 groups has the distribution of Wald and "
-             "Wolfowitz (1940), which is exact",
+             "the number of runs of a block of 20 with 2 groups has the exact distribution of Wald and "
+             "Wolfowitz (1940)",
              RunsOfBlocks(program_, 20, scale_.Of(1'000'000, 60'000)), "number of runs");
     });
     Run("RUN-2.1", "Arrangements that pass the Runs test", [&](Evidence& evidence) {
         constexpr float level = 0.1F;
-        ShowSample(
-            evidence,
-            "of the arrangements of a block of 8 with 2 groups only those with a P value above the level "
-            "come up, and each of them is equally likely",
-            Arrangements(program_, 8, 2, scale_.Of(400'000, 40'000), level), "arrangement");
+        ShowSample(evidence,
+                   "of the arrangements of a block of 8 with 2 groups only those with a P value above the "
+                   "level occur, and each of them is equally likely",
+                   Arrangements(program_, 8, 2, scale_.Of(400'000, 40'000), level), "arrangement");
     });
 }
 
@@ -147,14 +146,14 @@ void StatisticsChecks::CheckCodes() {
          "the characters 1 to 9 and A to Y are equally likely, and 0 and Z half as likely"},
     };
     for (const auto& kind : kinds)
-        Run(kind.Identifier, std::string("Characters of ") + kind.Kind + " random codes, by place",
+        Run(kind.Identifier, std::string("Characters of ") + kind.Kind + " random codes, by position",
             [&](Evidence& evidence) {
-                Show(evidence, std::string("at each place of a code ") + kind.Hypothesis,
+                Show(evidence, std::string("at each position of a code ") + kind.Hypothesis,
                      CharactersOfCodes(program_, kind.Alphabet, scale_.Of(1'000, 60)), "character");
             });
     Run("COD-1.1", "No random code twice in a list", [&](Evidence& evidence) {
         const int lists = scale_.Of(500, 50);
-        Show(evidence, "no code stands twice in its list, although the codes are short",
+        Show(evidence, "no code occurs twice in its list, although the codes are short",
              Grouped(lists) + " lists of 500 mixed codes of 3 characters, in which chance alone would "
                               "repeat about 3 codes in each list",
              JudgeNone("Repeated codes", RepeatedCodes(program_, 3, 500, lists), 0));
@@ -163,42 +162,42 @@ void StatisticsChecks::CheckCodes() {
 
 void StatisticsChecks::CheckRepetition() {
     constexpr int lists = 10'000;
-    Run("CON-3.1", "10,000 lists of 30 subjects one right after the other", [&](Evidence& evidence) {
+    Run("CON-3.1", "10,000 lists of 30 subjects, one directly after the other", [&](Evidence& evidence) {
         const double expected = ExpectedEqualPairs(30, 6, lists);
         evidence.Paragraph("There are " + Significant(NumberOfArrangements(30, 6), 4) +
-                           " arrangements, so that chance makes " + Significant(expected, 2) +
-                           " pairs of lists equal.");
+                           " arrangements, so that " + Significant(expected, 2) +
+                           " equal pairs of lists are expected by chance.");
         Show(evidence, "no list is the same as an earlier one",
-             "10,000 lists of one block of 30 subjects in 6 groups, made one right after the other",
+             "10,000 lists of one block of 30 subjects in 6 groups, made one directly after the other",
              JudgeNone("Equal pairs of lists", EqualPairs(program_, 30, 6, lists), expected));
     });
-    Run("CON-3.2", "10,000 blocks of 12 one right after the other", [&](Evidence& evidence) {
+    Run("CON-3.2", "10,000 blocks of 12, one directly after the other", [&](Evidence& evidence) {
         const double expected = ExpectedEqualPairs(12, 4, lists);
         evidence.Paragraph("There are " + Grouped(static_cast<std::int64_t>(NumberOfArrangements(12, 4))) +
-                           " arrangements, so that chance makes " + Fixed(expected, 2) +
-                           " of the 49,995,000 pairs equal; the number of equal pairs follows Poisson's "
+                           " arrangements, so that " + Fixed(expected, 2) +
+                           " equal pairs of the 49,995,000 pairs are expected by chance; the number of equal "
+                           "pairs follows Poisson's "
                            "distribution.");
-        Show(evidence, "two blocks are equal no more often than chance makes them",
-             "10,000 blocks of 12 subjects in 4 groups, made one right after the other",
+        Show(evidence, "two blocks are equal as often as by chance",
+             "10,000 blocks of 12 subjects in 4 groups, made one directly after the other",
              JudgeRareEvents("Equal pairs of blocks", EqualPairs(program_, 12, 4, lists), expected));
     });
-    Run("CON-3.3", "A list tells nothing of the next one", [&](Evidence& evidence) {
-        ShowSample(
-            evidence,
-            "the number of subjects with the same group in a block and in the one made right after it has "
-            "the hypergeometric distribution of independent blocks",
-            AgreementOfNeighbours(program_, 12, scale_.Of(200'000, 60'000)), "number of subjects");
+    Run("CON-3.3", "A list gives no information about the next one", [&](Evidence& evidence) {
+        ShowSample(evidence,
+                   "the number of subjects with the same group in a block and in the next one has "
+                   "the hypergeometric distribution of independent blocks",
+                   AgreementOfNeighbours(program_, 12, scale_.Of(200'000, 60'000)), "number of subjects");
     });
 }
 
 void StatisticsChecks::CheckFalseAlarms() {
     Run("ASG-6.7", "False alarms of the statistics of the draws", [&](Evidence& evidence) {
         evidence.Paragraph(
-            "A right program fails at least one of the statistics above with a chance of at most " +
-            Significant(alarms_, 2) + ", the sum of the chances of all of them. The limit is " +
-            Significant(AllFalseAlarms, 2) +
-            ", which leaves room for the error of the chi-square approximation.");
-        evidence.Demand(alarms_ > 0 && alarms_ < AllFalseAlarms, "The chance of a false alarm is too high.");
+            "The probability that a correct program fails at least one of the statistics above is at most " +
+            Significant(alarms_, 2) + ", the sum of the probabilities for all of them. The limit is " +
+            Significant(AllFalseAlarms, 2) + ", which allows for the error of the chi-square approximation.");
+        evidence.Demand(alarms_ > 0 && alarms_ < AllFalseAlarms,
+                        "The probability of a false alarm is too high.");
     });
 }
 

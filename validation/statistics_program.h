@@ -1,5 +1,5 @@
-// The operations of a program that the statistics judge, so that one that is right and one that is wrong on
-// purpose go through the same statistics.
+// The operations of a program that the statistics check. The delivered program and programs with deliberate
+// faults are checked by the same statistics.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -15,26 +15,26 @@
 
 namespace orvane::validation {
 
-/// The groups of a block in position order, a letter each: "ABBA".
+/// The groups of a block in position order, one letter for each subject: "ABBA".
 using Arrangement = std::string;
 
 class DrawingProgram {
   public:
     virtual ~DrawingProgram() = default;
-    /// The next values of its random source.
+    /// Fills `values` with the next values of the random source.
     virtual void Values(std::span<float> values) = 0;
     virtual std::int16_t Draw(std::int16_t Lo, std::int16_t Hi) = 0;
     /// A new block of `size` subjects in `groups` groups. With a `level` above 0 it passes the Runs test.
     virtual Arrangement Block(int size, int groups, float level) = 0;
-    /// The block sizes, in list order, that OK fixes. Settings: block option and its text, sample size and
-    /// number of groups.
+    /// The block sizes, in list order, that pressing OK sets. Only the block option and its text, the sample
+    /// size and the number of groups of `settings` are used.
     virtual std::vector<std::int16_t> BlockSizes(const ListSettings& settings) = 0;
     /// The random codes of a list of `count` subjects.
     virtual std::vector<std::string> Codes(std::int32_t alphabet, std::int16_t length,
                                            std::int16_t count) = 0;
 };
 
-/// The delivered program's own routines, on a source that gets its key from `entropy`.
+/// The delivered program's own routines, with a random source that gets its key from `entropy`.
 class DeliveredProgram : public DrawingProgram {
   public:
     DeliveredProgram(Entropy& entropy, TimeOfDay& clock);
@@ -49,10 +49,10 @@ class DeliveredProgram : public DrawingProgram {
     TimeOfDay& clock_;
     RandomSource source_;
     MemoryList list_;
-    Platform desktop_; ///< that of the list, with this program's clock
+    Platform desktop_; ///< the list's desktop with this program's clock
 };
 
-/// The letters of the groups, "A" the first.
+/// The letters of the groups, beginning with "A".
 Texts GroupLetters(int groups);
 
 } // namespace orvane::validation

@@ -20,12 +20,12 @@ std::string Blocks(int count, int size, int groups) {
            " groups";
 }
 
-/// Categories of one place, whose shares add up to 1.
+/// For categories of a single position, whose shares add up to 1.
 void SetFreedom(Sample& sample) {
     sample.Freedom = static_cast<double>(sample.Categories.size()) - 1;
 }
 
-/// One category for each value of a draw, the two ends half as likely as each value between them.
+/// One category for each value of a draw, the two ends being half as likely as each value between them.
 std::vector<Category> HalvedEnds(const Texts& labels) {
     std::vector<Category> categories;
     const double inner = 1.0 / (static_cast<double>(labels.size()) - 1);
@@ -49,8 +49,8 @@ double Binomial(int n, int k) {
     return boost::math::binomial_coefficient<double>(static_cast<unsigned>(n), static_cast<unsigned>(k));
 }
 
-/// The chance of `runs` runs in a block of two groups of `half` subjects each: the ways to cut one group into
-/// so many pieces, times those of the other, over all arrangements.
+/// The probability of `runs` runs in a block of two groups of `half` subjects each: the number of ways to
+/// divide each group into its runs, multiplied, and divided by the number of arrangements.
 double ChanceOfRuns(int runs, int half) {
     const int pieces = runs / 2;
     const double ways = runs % 2 == 0 ? Binomial(half - 1, pieces - 1) * Binomial(half - 1, pieces - 1)
@@ -79,7 +79,7 @@ std::array<Sample, 3> BitsOfValues(DrawingProgram& program, int count) {
     std::array<Sample, 3> samples = {
         ByteSample(values + "the upper 8 bits of each", count),
         ByteSample(values + "the lower 8 bits of each", count),
-        ByteSample(values + "the upper 4 bits of two that follow each other", count / 2)};
+        ByteSample(values + "the upper 4 bits of two successive values", count / 2)};
     std::vector<float> batch(1000);
     std::uint32_t before = 0;
     for (int i = 0; i < count; ++i) {
@@ -157,7 +157,7 @@ Sample GroupsByPosition(DrawingProgram& program, int size, int groups, int count
     for (int position = 1; position <= size; ++position)
         for (const std::string& letter : GroupLetters(groups))
             sample.Categories.push_back({std::to_string(position) + " " + letter, 1.0 / groups, 0});
-    // Each block holds each group equally often, so one position follows from the others.
+    // Each block contains each group equally often, so one position follows from the others.
     sample.Freedom = (size - 1.0) * (groups - 1.0);
     sample.Factor = (size - 1.0) / size;
     for (int i = 0; i < count; ++i) {
@@ -172,8 +172,8 @@ Sample GroupsByPosition(DrawingProgram& program, int size, int groups, int count
 }
 
 Sample RunsOfBlocks(DrawingProgram& program, int size, int count) {
-    // Fewer than 1 in 2000 blocks has as few runs as the lowest of those that are counted together; as many
-    // runs as the highest of them are just as rare.
+    // Numbers of runs with a probability below 1 in 2000 are counted together, at both ends of the
+    // distribution.
     constexpr double rare = 0.0005;
     const int half = size / 2;
     int last = 1;
@@ -208,8 +208,8 @@ Sample BlockSizesOf(DrawingProgram& program, const ListSettings& settings,
         labels.push_back(std::to_string(size));
     sample.Categories = HalvedEnds(labels);
     SetFreedom(sample);
-    // Where a list ends depends on the sizes before, never on those behind, so the sizes of all lists in a
-    // row are independent draws. The last list is not counted to its end.
+    // The end of a list depends only on the sizes drawn so far. So the sizes of successive lists are
+    // independent draws. The last list is counted only up to `count`.
     for (int drawn = 0; drawn < count;)
         for (const std::int16_t size : program.BlockSizes(settings)) {
             if (++drawn > count)
@@ -258,7 +258,7 @@ Sample CharactersOfCodes(DrawingProgram& program, std::int32_t alphabet, int lis
 
 Sample AgreementOfNeighbours(DrawingProgram& program, int size, int count) {
     const int half = size / 2;
-    // Of the first group of one block, how many have the first group in the other one too.
+    // The number of positions that have the first group in both blocks.
     const boost::math::hypergeometric common(static_cast<unsigned>(half), static_cast<unsigned>(half),
                                              static_cast<unsigned>(size));
     Sample sample;
@@ -282,7 +282,7 @@ Sample AgreementOfNeighbours(DrawingProgram& program, int size, int count) {
 std::int64_t EqualPairs(DrawingProgram& program, int size, int groups, int count) {
     std::map<Arrangement, std::int64_t> times;
     std::int64_t pairs = 0;
-    // A block that comes for the n-th time makes n - 1 pairs more.
+    // A block that occurs for the n-th time adds n - 1 pairs.
     for (int i = 0; i < count; ++i)
         pairs += times[program.Block(size, groups, 0)]++;
     return pairs;

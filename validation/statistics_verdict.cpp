@@ -23,7 +23,7 @@ Verdict ByPValue(const std::string& statistic, double value, double lower, doubl
     return verdict;
 }
 
-/// One bar for each label: the places of a code are shown together.
+/// One bar for each label; the positions of a code are shown together.
 std::vector<Bar> BarsOf(const Sample& sample) {
     std::vector<Bar> bars;
     std::map<std::string, std::size_t> known;
@@ -91,7 +91,7 @@ void ShowVerdict(Evidence& evidence, const std::string& hypothesis, const std::s
         rows.push_back({"Degrees of freedom", verdict.Freedom});
     rows.push_back({"P value, two-sided", PValueText(verdict.PValue)});
     rows.push_back({"Accepted", verdict.Acceptance});
-    rows.push_back({"Chance of a false alarm", Significant(verdict.Alarm, 2)});
+    rows.push_back({"Probability of a false alarm", Significant(verdict.Alarm, 2)});
     evidence.Table({"Statistic", "Finding"}, rows);
     evidence.Demand(verdict.Passed, verdict.Statistic + " is " + Fixed(verdict.Value, 2) +
                                         ", with a P value of " + PValueText(verdict.PValue));
@@ -102,10 +102,10 @@ void ShowSample(Evidence& evidence, const std::string& hypothesis, const Sample&
     const std::vector<Bar> bars = BarsOf(sample);
     ShowVerdict(evidence, hypothesis, sample.Text, JudgeCounts(sample));
     evidence.Demand(sample.Impossible == 0,
-                    Grouped(sample.Impossible) + " of the sample are values that cannot be");
+                    Grouped(sample.Impossible) + " values of the sample are impossible");
     evidence.Plot(
-        BarChart("How often each " + what + " was drawn, beside what is expected", what, "drawn", bars),
-        "How often each " + what + " was drawn; the lines show what is expected.");
+        BarChart("How often each " + what + " was drawn, and the expected number", what, "drawn", bars),
+        "How often each " + what + " was drawn. The lines show the expected number.");
 }
 
 } // namespace orvane::validation

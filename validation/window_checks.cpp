@@ -10,7 +10,7 @@ using driving::Window;
 
 namespace {
 
-/// Meets messages one behind the other.
+/// Expects these messages, one after the other, and closes them.
 void MeetMessages(Evidence& evidence, driving::User& user, const std::string& input,
                   const std::vector<std::string>& expected) {
     for (const std::string& text : expected) {
@@ -40,7 +40,7 @@ const std::vector<Refusal>& Refusals() {
          "Size of Equal Blocks",
          "abc",
          {"please specify the block size"}},
-        {"a block size that the number of groups does not divide",
+        {"a block size that is not a multiple of the number of groups",
          BlockOption::Equal,
          "Size of Equal Blocks",
          "7",
@@ -50,7 +50,7 @@ const std::vector<Refusal>& Refusals() {
          "Random Block Sizes",
          "6, 9",
          {"block sizes must be divisable by the number of groups", "please specify block sizes"}},
-        {"a level that nothing can reach",
+        {"a level that no block can reach",
          BlockOption::One,
          "Level of significance",
          "0.4",
@@ -79,7 +79,7 @@ void CheckRefusal(Evidence& evidence, ListMaker& maker, const Refusal& refusal) 
     desktop.AwaitGone(options);
 }
 
-/// A command of the menus and what is to come of it: a window that Esc closes, or nothing that is seen here.
+/// A menu command and the window that it opens, which Esc closes; empty if it opens none.
 struct Command {
     std::vector<std::string> Items;
     const char* Title;
@@ -120,7 +120,7 @@ void CheckRefusals(Evidence& evidence, ListMaker& maker) {
                      TextOf(user, MainTitle, "Sample Size"));
     for (const std::string& group : setup.Groups)
         evidence.Demand(!user.Find(MainTitle, "table cell", group).Name.empty(),
-                        "the name of a group is lost");
+                        "the name of a group was lost");
     for (const Refusal& refusal : Refusals())
         CheckRefusal(evidence, maker, refusal);
 }
@@ -139,15 +139,16 @@ void CheckSettingsFiles(Evidence& evidence, ListMaker& maker, const std::vector<
         maker.Settings().Load(saved);
         maker.Settings().Save(again);
         const bool same = driving::ReadFile(saved) == bytes && driving::ReadFile(again) == bytes;
-        evidence.Demand(same, "the set-up of list " + std::to_string(setup.Number) + " came back changed");
+        evidence.Demand(same, "the set-up of list " + std::to_string(setup.Number) +
+                                  " changed when it was saved and loaded");
         rows.push_back(
             {std::to_string(setup.Number), std::to_string(bytes.size()), same ? "same" : "CHANGED"});
     }
     const ListSetup& last = setups.back();
     evidence.Demand(maker.Person().Exit() == 0, "the program ended with a fault");
     const bool kept = driving::ReadFile(maker.Person().SavedSettings()) == SettingsBytes(last);
-    evidence.Demand(kept, "the end of the program keeps another set-up");
-    rows.push_back({std::to_string(last.Number) + ", kept at the end of the program",
+    evidence.Demand(kept, "the set-up saved at the end of the program is a different one");
+    rows.push_back({std::to_string(last.Number) + ", saved at the end of the program",
                     std::to_string(SettingsBytes(last).size()), kept ? "same" : "CHANGED"});
     evidence.Table({"Set-up of list", "Bytes", "Saved, loaded and saved again"}, rows);
 }
@@ -173,7 +174,7 @@ void CheckCommandsByKeys(Evidence& evidence, ListMaker& maker) {
     keys.Choose({"File", "Exit"});
     evidence.Demand(desktop.AwaitEnd() == 0, "the program ended with a fault");
     rows.push_back({"File > Exit", "the end of the program"});
-    evidence.Table({"Command by Alt, arrows and Enter", "What came"}, rows);
+    evidence.Table({"Command by Alt, arrows and Enter", "Result"}, rows);
 }
 
 } // namespace orvane::validation

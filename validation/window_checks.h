@@ -1,4 +1,4 @@
-// Checks of the program's windows that need no whole list.
+// Checks of the program's windows for which no list is made.
 #pragma once
 
 #include "validation/list_maker.h"
@@ -6,13 +6,13 @@
 
 namespace orvane::validation {
 
-/// Missing and unusable input is refused in the real windows, and what was typed is still there.
+/// Checks that missing and unusable input is refused, and that the typed text is kept.
 void CheckRefusals(Evidence& evidence, ListMaker& maker);
 
-/// Set-ups that are loaded, saved, loaded again and saved again are the same bytes each time.
+/// Checks that set-ups that are loaded and saved twice give the same bytes each time.
 void CheckSettingsFiles(Evidence& evidence, ListMaker& maker, const std::vector<ListSetup>& setups);
 
-/// Each command of the main window is given with keys alone.
+/// Checks that each command of the main window can be given by keyboard only.
 void CheckCommandsByKeys(Evidence& evidence, ListMaker& maker);
 
 } // namespace orvane::validation

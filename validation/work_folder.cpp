@@ -17,13 +17,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where the handler, which may do next to nothing, hands the signal to a thread that may do everything.
+/// The signal handler may call almost no functions, so it passes the signal to a thread through this pipe.
 int signalPipe = -1;
 
 extern "C" void HandOver(int signal) {
     const auto number = static_cast<unsigned char>(signal);
     const ssize_t written = ::write(signalPipe, &number, 1);
-    (void)written; // a full pipe holds a signal already
+    (void)written; // if the pipe is full, a signal is already in it
 }
 
 void Remove(const fs::path& path) {
@@ -36,7 +36,7 @@ void Remove(const fs::path& path) {
     while (::read(pipe, &number, 1) != 1) {
     }
     Remove(path);
-    constexpr int signalExit = 128; // as shells count
+    constexpr int signalExit = 128; // as shells do
     ::_exit(signalExit + number);
 }
 

@@ -1,11 +1,11 @@
-// A folder for files that must not outlive the validation.
+// A folder for files that are deleted at the end of the validation.
 #pragma once
 
 #include <filesystem>
 
 namespace orvane::validation {
 
-/// A new folder among the machine's temporary files, readable by its owner alone, removed with the object.
+/// A new temporary folder that only its owner can read. The destructor removes it.
 class WorkFolder {
   public:
     /// Throws std::runtime_error when it cannot be made.
@@ -16,8 +16,8 @@ class WorkFolder {
 
     [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
 
-    /// From now on SIGINT, SIGTERM and SIGHUP remove the folder before they end the program. To be called
-    /// once, before other threads start.
+    /// From now on SIGINT, SIGTERM and SIGHUP remove the folder before they end the program.
+    /// Requires: called once, before other threads start.
     void RemoveOnSignals() const;
 
   private:

@@ -119,7 +119,7 @@ Change UnderOption(BlockOption option) {
     };
 }
 
-/// The lines from the one that starts so, up to the end of `last`, are cut out.
+/// Cuts out the text from the line that starts with `first` to the end of `last`.
 Change Without(const std::string& first, const std::string& last) {
     return [=](MadeList& list) {
         const std::size_t from = list.Bytes.find(first);
@@ -136,7 +136,7 @@ void AddAssignmentFaults(std::vector<WrongList>& wrong) {
                           }));
     wrong.push_back(Wrong("one subject of a block in the other group", "ASG-1.10", Form::WebPage,
                           Replaced("003: <b>Group 2", "003: <b>Group 1")));
-    WrongList rest{"the second group of a single block has one more", "ASG-2.10", RightRestList()};
+    WrongList rest{"the second group of a single block has one subject more", "ASG-2.10", RightRestList()};
     Replace(rest.List.Bytes, "001: Group 1", "001: Group 2");
     ReadBack(rest.List);
     wrong.push_back(rest);
@@ -148,12 +148,12 @@ void AddBlockFaults(std::vector<WrongList>& wrong) {
     wrong.push_back(Wrong("a block of 4 where 6 was chosen", "BLK-2.10", Form::TextFile,
                           UnderOption(BlockOption::Equal)));
     wrong.push_back(Wrong("the last block missing", "BLK-3.10", Form::TextFile, Without("007", Ruled(55))));
-    wrong.push_back(Wrong("a block cut by its last row", "BLK-3.10", Form::TextFile, Without("008", "\n")));
+    wrong.push_back(Wrong("a block without its last row", "BLK-3.10", Form::TextFile, Without("008", "\n")));
     wrong.push_back(Wrong("one block too many", "BLK-3.10", Form::TextFile,
                           [](MadeList& list) { list.Bytes += TextBytes().substr(TextBytes().find("007")); }));
-    wrong.push_back(Wrong("a block larger than random sizes go", "BLK-4.10", Form::TextFile,
+    wrong.push_back(Wrong("a block that is too large for random sizes", "BLK-4.10", Form::TextFile,
                           UnderOption(BlockOption::RandomSizes)));
-    wrong.push_back(Wrong("a block cut by its last subject", "BLK-7.10", Form::WebPage,
+    wrong.push_back(Wrong("a block without its last subject", "BLK-7.10", Form::WebPage,
                           Replaced("<td>010: <b>Group 2</b></td>", "<td>&nbsp;</td>")));
 }
 
@@ -172,7 +172,7 @@ void AddRunsTestFaults(std::vector<WrongList>& wrong) {
         Replace(list.Bytes, "004: Group 1", "004: Group 2");
         Replace(list.Bytes, "006: Group 1", "006: Group 2");
     }));
-    wrong.push_back(Wrong("the largest P value told with a wrong last digit", "RUN-4.10", Form::TextFile,
+    wrong.push_back(Wrong("the largest P value shown with a wrong last digit", "RUN-4.10", Form::TextFile,
                           [](MadeList& list) { Replace(list.RunsMessage, "0.3989", "0.3988"); }));
     wrong.push_back(Wrong("no P value told", "RUN-4.10", Form::TextFile,
                           [](MadeList& list) { list.RunsMessage.clear(); }));
@@ -194,15 +194,15 @@ void AddLayoutFaults(std::vector<WrongList>& wrong, Form form, const std::string
 }
 
 void AddWindowFaults(std::vector<WrongList>& wrong) {
-    wrong.push_back(Wrong("a window that shows another list than it saves", "REP-3.10", Form::Window,
+    wrong.push_back(Wrong("a window that shows a list different from the saved one", "REP-3.10", Form::Window,
                           [](MadeList& list) { Exchange(list.Window->Text, "Group 1", "Group 2"); }));
     wrong.push_back(Wrong(
         "a blank cell in front of a subject", "REP-5.10", Form::Clipboard,
         Replaced("008: Group 1        010: Group 2" + std::string(8 + 18, ' '),
                  "008: Group 1        " + std::string(18, ' ') + "010: Group 2" + std::string(8, ' '))));
-    wrong.push_back(Wrong("a temporary file that everybody can read", "CON-4.10", Form::Window,
+    wrong.push_back(Wrong("a temporary file that everyone can read", "CON-4.10", Form::Window,
                           [](MadeList& list) { list.Window->TemporaryFiles = {"rw-r--r--"}; }));
-    wrong.push_back(Wrong("a temporary file that stays", "CON-4.10", Form::Window,
+    wrong.push_back(Wrong("a temporary file that is not deleted", "CON-4.10", Form::Window,
                           [](MadeList& list) { list.Window->LeftBehind = {"ABCD1234.tmp"}; }));
     wrong.push_back(Wrong("a finished file that is not opened", "USE-2.10", Form::TextFile,
                           [](MadeList& list) { list.Viewer.clear(); }));

@@ -13,7 +13,7 @@
 namespace orvane::validation {
 namespace {
 
-/// What the statistics say of one wrong program.
+/// The statistics applied to one faulty program.
 class Trial {
   public:
     explicit Trial(Fault fault) : Program(entropy_, clock_, fault) {}
@@ -27,9 +27,9 @@ class Trial {
     }
     void Show(Evidence& evidence) const {
         evidence.Table({"Sample", "Statistic", "Value", "P value", "Accepted", "The fault was"}, rows_);
-        evidence.Demand(!rows_.empty(), "No statistic was tried.");
+        evidence.Demand(!rows_.empty(), "No statistic was applied.");
         for (const std::string& sample : missed_)
-            evidence.Demand(false, "The fault was not noticed in " + sample);
+            evidence.Demand(false, "The fault was not found in " + sample);
     }
 
   private:
@@ -94,7 +94,7 @@ void TryTruncatedDraws(Trial& trial) {
     TryDraws(trial);
 }
 
-/// Tries one of the three statistics of the bits of the source.
+/// Applies one of the three statistics of the bits of the source.
 std::function<void(Trial&)> TryBits(std::size_t which) {
     return [which](Trial& trial) { trial.Judge(BitsOfValues(trial.Program, 200'000).at(which)); };
 }
@@ -125,18 +125,18 @@ void TryCodes(Trial& trial) {
 std::vector<WrongProgram> WrongPrograms() {
     return {
         {"ASG-3.51", "A shuffle of N exchanges instead of 10 N N", Fault::FewExchanges, TryBlocks},
-        {"ASG-4.51", "A block dealt unevenly", Fault::UnevenDeal, TryUnevenBlocks},
+        {"ASG-4.51", "A block with unequal groups", Fault::UnevenDeal, TryUnevenBlocks},
         {"ASG-6.51", "Draws that are remainders", Fault::RemainderDraws, TryDraws},
         {"ASG-6.52", "Draws with uniform ends", Fault::UniformEnds, TryDraws},
         {"ASG-6.53", "Draws that are cut off instead of rounded", Fault::TruncatedDraws, TryTruncatedDraws},
         {"CON-1.51", "A random source that gives remainders", Fault::RemainderValues, TryBits(0)},
         {"CON-1.52", "A random source of 16 bits", Fault::CoarseValues, TryBits(1)},
-        {"CON-1.53", "A random source that hands out every value twice", Fault::DoubledValues, TryBits(2)},
+        {"CON-1.53", "A random source that gives every value twice", Fault::DoubledValues, TryBits(2)},
         {"CON-3.51", "Lists that are repeated: a source that always starts from the same key",
          Fault::RepeatedList, TryRepetition},
         {"CON-3.52", "A source that starts from one of 256 keys", Fault::FewKeys, TryRepetition},
-        {"CON-3.53", "Blocks that start from the block before", Fault::ContinuedBlocks, TryNeighbours},
-        {"RUN-2.51", "Blocks that are used whatever their Runs test says", Fault::IgnoredRunsTest,
+        {"CON-3.53", "Blocks that start from the previous block", Fault::ContinuedBlocks, TryNeighbours},
+        {"RUN-2.51", "Blocks that are used without regard to the Runs test", Fault::IgnoredRunsTest,
          TryTestedBlocks},
         {"COD-1.51", "A code used twice", Fault::RepeatedCode, TryCodes},
     };

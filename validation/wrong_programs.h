@@ -1,12 +1,12 @@
-// Checks of the checks: what the statistics say of programs that are wrong on purpose.
+// Checks of the checks: the statistics applied to programs with deliberate faults.
 #pragma once
 
 #include "validation/record.h"
 
 namespace orvane::validation {
 
-/// Judges each wrong program by the statistics that must notice its fault. A check passes only if all of them
-/// fail that program.
+/// Applies to each faulty program the statistics that must find its fault. A check passes only if all of them
+/// find it.
 void CheckStatisticsChecks(Record& record, const Scale& scale);
 
 } // namespace orvane::validation

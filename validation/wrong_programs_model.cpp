@@ -12,11 +12,11 @@
 namespace orvane::validation {
 namespace {
 
-/// A source whose values repeat would never give a new code or another block.
+/// Prevents an endless loop: a source with repeated values never gives a new code or a different block.
 void RequireFewAttempts(int attempts) {
     constexpr int most = 100'000;
     if (attempts > most)
-        throw std::runtime_error("the random source gives nothing new");
+        throw std::runtime_error("the random source repeats its values");
 }
 
 } // namespace
@@ -128,7 +128,7 @@ std::vector<std::int16_t> ModelProgram::BlockSizes(const ListSettings& settings)
         for (int multiplier = deals / 5; multiplier <= deals / 3; ++multiplier)
             pool.push_back(static_cast<std::int16_t>(settings.NumberOfGroups * multiplier));
     }
-    // A list of sizes ends when it has reached the sample size, random sizes when they have passed it.
+    // Listed sizes end when the sum reaches the sample size, random sizes when it exceeds it.
     const int enough = settings.SampleSize + (settings.prBlockOption == RandomSizesOf ? 0 : 1);
     std::vector<std::int16_t> sizes;
     while (std::accumulate(sizes.begin(), sizes.end(), 0) < enough) {

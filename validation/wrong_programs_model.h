@@ -1,5 +1,5 @@
-// A program written anew from the documented rules, in the plainest way, which can be made wrong on purpose
-// in one place.
+// A second, simple program, written independently from the documented rules, which can be given one
+// deliberate fault.
 #pragma once
 
 #include "validation/statistics_program.h"
@@ -12,22 +12,22 @@ namespace orvane::validation {
 
 enum class Fault {
     None,
-    RemainderValues, ///< the source gives remainders of a division, so that low values come up twice as often
+    RemainderValues, ///< the source gives remainders of a division: low values are twice as likely
     CoarseValues,    ///< the source has 16 bits where it should have 24
-    DoubledValues,   ///< the source hands out every value twice
+    DoubledValues,   ///< the source gives every value twice
     RemainderDraws,  ///< a draw is the remainder of a byte
     UniformEnds,     ///< a draw gives its ends as often as the values between them
-    TruncatedDraws,  ///< a draw is cut off instead of rounded
+    TruncatedDraws,  ///< a draw is truncated instead of rounded
     FewExchanges,    ///< a block of N subjects gets N exchanges
-    UnevenDeal,      ///< the last subject is dealt the first group
+    UnevenDeal,      ///< the last subject gets the first group
     RepeatedList,    ///< the source starts from the same key for every block
     FewKeys,         ///< the source starts from one of 256 keys for every block
-    ContinuedBlocks, ///< a block starts from the block before and gets few exchanges
-    IgnoredRunsTest, ///< a block is used whatever its Runs test says
-    RepeatedCode,    ///< the last code of a list is its first one again
+    ContinuedBlocks, ///< a block starts from the previous block and gets few exchanges
+    IgnoredRunsTest, ///< a block is used without regard to the Runs test
+    RepeatedCode,    ///< the last code of a list is a copy of the first
 };
 
-/// With Fault::None it gives, draw for draw, what the delivered program gives from the same key.
+/// With Fault::None it gives exactly the same draws as the delivered program with the same key.
 class ModelProgram : public DrawingProgram {
   public:
     ModelProgram(Entropy& entropy, TimeOfDay& clock, Fault fault);
@@ -41,7 +41,7 @@ class ModelProgram : public DrawingProgram {
   private:
     float Next();
     void Reseed();
-    /// For the faults of keys: a new source.
+    /// Starts a new source, for the faults of keys.
     void StartAnew();
     [[nodiscard]] Arrangement Dealt(int size, int groups) const;
     void Exchange(Arrangement& block, int times);
