@@ -152,10 +152,10 @@ TEST_F(ProgramTest, OnlyARequestToCloseOutlastsAGeneration) {
     user.KeepSettings({.SampleSize = BusySampleSize, .CodeLength = 5, .OutputOption = 2});
     user.StartProgram();
     user.AwaitMain();
-    const Box button = ScreenReader::PlaceOf(user.Find(MainTitle, "push button", "Generate Random List"));
+    desktop.Point(ScreenReader::PlaceOf(user.Find(MainTitle, "push button", "Generate Random List")));
     user.OpenOptions();
     desktop.Press({"Return", "Return", "space", "Return"});
-    desktop.Click(button, 2);
+    desktop.Click(2);
     Message message = user.AwaitMessage();
     EXPECT_EQ(message.Text, Copied);
     user.Confirm(message);
@@ -173,7 +173,7 @@ TEST_F(ProgramTest, ADoubleClickGeneratesOnce) {
     user.KeepSettings({.SampleSize = "8"});
     user.StartProgram();
     user.AwaitMain();
-    desktop.Click(ScreenReader::PlaceOf(user.Find(MainTitle, "push button", "Generate Random List")), 2);
+    user.Click(MainTitle, "push button", "Generate Random List", 2);
     const Window options = desktop.Await(OptionsTitle);
     desktop.Press({"Escape"});
     desktop.AwaitGone(options);

@@ -110,7 +110,7 @@ int Desktop::AwaitEnd() {
                : 128 + g_subprocess_get_term_sig(program.get());
 }
 
-std::optional<Window> Desktop::Active() const {
+std::optional<Window> Desktop::Active() {
     const auto id = TryRun({"xdotool", "getactivewindow"});
     // The window may have closed in the meantime.
     const auto title = id ? TryRun({"xdotool", "getwindowname", Line(*id)}) : std::nullopt;
@@ -161,22 +161,29 @@ void Desktop::AwaitThat(const std::string& what, const std::function<bool()>& co
     }
 }
 
-void Desktop::Press(const Words& keys) {
+std::string Desktop::Do(const Words& words) const {
     if (program_ && !Running())
         throw Fault("the program has ended\n" + Complaints());
+    return Run(words);
+}
+
+void Desktop::Press(const Words& keys) const {
     Words words = {"xdotool", "key", "--delay", "15"};
     words.insert(words.end(), keys.begin(), keys.end());
-    Run(words);
+    Do(words);
 }
 
 void Desktop::Type(const std::string& text) const {
-    Run({"xdotool", "type", "--delay", "4", "--", text});
+    Do({"xdotool", "type", "--delay", "4", "--", text});
 }
 
-void Desktop::Click(const Box& box, int times) const {
-    Run({"xdotool", "mousemove", std::to_string(box.X + box.Width / 2),
-         std::to_string(box.Y + box.Height / 2), "click", "--repeat", std::to_string(times), "--delay", "60",
-         "1"});
+void Desktop::Point(const Box& box) const {
+    Do({"xdotool", "mousemove", std::to_string(box.X + box.Width / 2),
+        std::to_string(box.Y + box.Height / 2)});
+}
+
+void Desktop::Click(int times) const {
+    Do({"xdotool", "click", "--repeat", std::to_string(times), "--delay", "60", "1"});
 }
 
 void Desktop::SettleAndWrite(const Words& from, const fs::path& file) const {

@@ -75,7 +75,7 @@ class Desktop {
     int AwaitEnd();
 
     /// The active window.
-    [[nodiscard]] std::optional<Window> Active() const;
+    [[nodiscard]] static std::optional<Window> Active();
     [[nodiscard]] std::vector<std::string> Titles() const { return reader_.Titles(); }
     /// Waits until a window with exactly this title is active.
     Window Await(const std::string& title);
@@ -87,10 +87,12 @@ class Desktop {
     void AwaitThat(const std::string& what, const std::function<bool()>& come);
 
     /// Presses keys, given by names such as "ctrl+Tab", one after the other in the control with the focus.
-    void Press(const Words& keys);
+    void Press(const Words& keys) const;
     void Type(const std::string& text) const;
-    /// Clicks in the middle of `box`; the mouse pointer stays there.
-    void Click(const Box& box, int times = 1) const;
+    /// Moves the mouse pointer to the middle of `box`.
+    void Point(const Box& box) const;
+    /// Clicks where the mouse pointer is.
+    void Click(int times = 1) const;
 
     [[nodiscard]] const ScreenReader& Reader() const { return reader_; }
 
@@ -100,7 +102,7 @@ class Desktop {
     void Picture(const Window& window, const std::filesystem::path& file) const;
 
     /// The text that another program gets from the clipboard.
-    [[nodiscard]] std::string Pasted() const { return Run({"xclip", "-selection", "clipboard", "-out"}); }
+    [[nodiscard]] std::string Pasted() const { return Do({"xclip", "-selection", "clipboard", "-out"}); }
     /// The starts of viewers so far, each as the viewer's name, "browser" or "reader", and its arguments.
     [[nodiscard]] std::vector<Words> Viewed() const;
     /// What the program has written to standard output and standard error.
@@ -113,6 +115,8 @@ class Desktop {
 
   private:
     [[nodiscard]] std::filesystem::path Log() const { return folder_ / "log"; }
+    /// The output of a command that uses the program. Throws Fault if the program has ended.
+    std::string Do(const Words& words) const; // NOLINT(modernize-use-nodiscard): often for its effect alone
     void SettleAndWrite(const Words& from, const std::filesystem::path& file) const;
 
     std::filesystem::path folder_; // first: throws without a display

@@ -1,5 +1,6 @@
 #include "screen_reader.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace orvane::driving {
@@ -37,15 +38,6 @@ std::vector<Node> ChildrenOf(const Node& node) {
     return children;
 }
 
-std::vector<Node> AllWindows() {
-    std::vector<Node> windows;
-    // A program can be in the tree twice, once for each toolkit that it uses.
-    for (const Node& program : ChildrenOf(Own(atspi_get_desktop(0))))
-        for (Node& window : ChildrenOf(program))
-            windows.push_back(std::move(window));
-    return windows;
-}
-
 std::string NameOf(const Node& node) {
     return Own(atspi_accessible_get_name(node.get(), nullptr));
 }
@@ -73,10 +65,8 @@ bool Walk(const Node& node, int depth, const std::function<bool(const Control&)>
             control.Text = Own(atspi_text_get_text(text.get(), 0, -1, nullptr));
     if (look(control))
         return true;
-    for (const Node& child : ChildrenOf(node))
-        if (Walk(child, depth + 1, look))
-            return true;
-    return false;
+    return std::ranges::any_of(ChildrenOf(node),
+                               [&](const Node& child) { return Walk(child, depth + 1, look); });
 }
 
 } // namespace
@@ -87,7 +77,17 @@ ScreenReader::ScreenReader() {
     // The library's cache is switched off, because it is out of date after a window has changed. The cache
     // of states has to stay on: without it the library asks for a state while it handles the answer of a GTK
     // program, and waits for itself for ever.
-    atspi_accessible_set_cache_mask(Own(atspi_get_desktop(0)).get(), ATSPI_CACHE_STATES);
+    root_ = Own(atspi_get_desktop(0));
+    atspi_accessible_set_cache_mask(root_.get(), ATSPI_CACHE_STATES);
+}
+
+std::vector<Node> ScreenReader::AllWindows() const {
+    std::vector<Node> windows;
+    // A program can be in the tree twice, once for each toolkit that it uses.
+    for (const Node& program : ChildrenOf(root_))
+        for (Node& window : ChildrenOf(program))
+            windows.push_back(std::move(window));
+    return windows;
 }
 
 std::vector<std::string> ScreenReader::Titles() const {
@@ -101,10 +101,8 @@ std::vector<std::string> ScreenReader::Titles() const {
 }
 
 bool ScreenReader::Any(const std::string& title, const std::function<bool(const Control&)>& look) const {
-    for (const Node& window : AllWindows())
-        if (NameOf(window) == title && Walk(window, 0, look))
-            return true;
-    return false;
+    return std::ranges::any_of(
+        AllWindows(), [&](const Node& window) { return NameOf(window) == title && Walk(window, 0, look); });
 }
 
 Box ScreenReader::PlaceOf(const Control& control) {

@@ -44,6 +44,11 @@ class ScreenReader {
     [[nodiscard]] static Box PlaceOf(const Control& control);
     /// Asks a control to take the focus. Returns false if this kind of control refuses.
     static bool Focus(const Control& control);
+
+  private:
+    [[nodiscard]] std::vector<std::shared_ptr<AtspiAccessible>> AllWindows() const;
+
+    std::shared_ptr<AtspiAccessible> root_; ///< its children are the programs
 };
 
 } // namespace orvane::driving

@@ -19,6 +19,20 @@ bool HasKeys(const Control& control, const std::string& name) {
            control.Role != "page tab" && control.Role != "panel";
 }
 
+/// Does something until it shows its effect, a few times at most. Returns whether it did.
+bool Repeat(const std::function<void()>& act, const std::function<bool()>& effect) {
+    constexpr int mostTries = 4;
+    for (int left = mostTries; left > 0; --left) {
+        act();
+        for (Deadline deadline(std::chrono::seconds(5)); !deadline.Passed();) {
+            if (effect())
+                return true;
+            std::this_thread::sleep_for(Glance);
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 User::User(Desktop& desktop, const fs::path& programFolder) : desktop_(desktop) {
@@ -95,20 +109,18 @@ void User::Fill(const std::string& title, const std::string& name, const std::st
     AwaitText(title, name, text);
 }
 
-void User::Click(const std::string& title, const std::string& role, const std::string& name) {
+void User::Click(const std::string& title, const std::string& role, const std::string& name, int times) {
     desktop_.Await(title);
-    desktop_.Click(ScreenReader::PlaceOf(Find(title, role, name)));
+    desktop_.Point(ScreenReader::PlaceOf(Find(title, role, name)));
+    desktop_.Click(times);
 }
 
 void User::OpenMenu(const Words& items) {
     AwaitMain();
     for (const std::string& item : items) {
-        const Box place = ScreenReader::PlaceOf(Find(MainTitle, "menu item", item));
-        if (&item == &items.back())
-            desktop_.Run({"xdotool", "mousemove", std::to_string(place.X + place.Width / 2),
-                          std::to_string(place.Y + place.Height / 2)});
-        else
-            desktop_.Click(place);
+        desktop_.Point(ScreenReader::PlaceOf(Find(MainTitle, "menu item", item)));
+        if (&item != &items.back())
+            desktop_.Click();
     }
 }
 
@@ -125,7 +137,7 @@ void User::LeaveMenu() {
 
 void User::Choose(const Words& items) {
     OpenMenu(items);
-    desktop_.Run({"xdotool", "click", "1"});
+    desktop_.Click();
 }
 
 Window User::OpenOptions() {
@@ -141,24 +153,26 @@ void User::Generate() {
 }
 
 void User::Answer(const Window& prompt, const std::string& path) {
-    constexpr int mostTries = 3; // a prompt may open its text box at the first letters and lose some of them
     const auto holds = [&] {
         return desktop_.Reader().Any(prompt.Title, [&](const Control& control) {
             return control.Role == "text" && control.Text == path;
         });
     };
-    for (int left = mostTries; left > 0; --left) {
+    // GTK loses letters on the way to a box that opens for them, and Enter while it reads a folder.
+    const auto type = [&] {
         desktop_.Press({"ctrl+a"});
         desktop_.Type(path);
-        for (Deadline deadline(std::chrono::seconds(3)); !deadline.Passed();) {
-            if (holds()) {
-                desktop_.Press({"Return"});
-                return;
-            }
-            std::this_thread::sleep_for(Glance);
-        }
-    }
-    throw Fault("the prompt \"" + prompt.Title + "\" does not take the name " + path);
+    };
+    const auto enter = [&] {
+        if (holds())
+            desktop_.Press({"Return"});
+    };
+    const auto taken = [&] {
+        const auto active = Desktop::Active();
+        return active && active->Id != prompt.Id;
+    };
+    if (!Repeat(type, holds) || !Repeat(enter, taken))
+        throw Fault("the prompt \"" + prompt.Title + "\" does not take the name " + path);
 }
 
 Message User::AwaitMessage() {

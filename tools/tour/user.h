@@ -72,7 +72,8 @@ class User {
     void TabTo(const std::string& title, const std::string& name);
     /// Replaces the text of the text box with this name.
     void Fill(const std::string& title, const std::string& name, const std::string& text);
-    void Click(const std::string& title, const std::string& role, const std::string& name);
+    /// Clicks in the middle of a control.
+    void Click(const std::string& title, const std::string& role, const std::string& name, int times = 1);
 
     /// Opens the menus down to the last item, which is highlighted but not chosen.
     void OpenMenu(const Words& items);
