@@ -32,7 +32,9 @@ namespace {
 TEST(CodePageIconv, HasThePageOfALanguage) {
     struct Row {
         int number;
-        std::string languages, bytes, text;
+        std::string languages;
+        std::string bytes;
+        std::string text;
     };
     const std::array<Row, 10> rows{{
         {1250, "cs pl_PL.UTF-8 sr_RS@latin hr", "\x9A\xE8\xF5", "ščő"},
@@ -79,7 +81,8 @@ class StubDesktop {
   public:
     StubDesktop() {
         // Writes the number of arguments, then each on its line, and renames the complete file.
-        const std::string viewer = Path("bin/viewer"), part = "'" + Path("part") + "'";
+        const std::string viewer = Path("bin/viewer");
+        const std::string part = "'" + Path("part") + "'";
         folder.Put("bin/viewer",
                    "#! /bin/sh -e\nprintf '%s\\n' \"$#\" \"$@\" > " + part + "\nmv " + part + " '" +
                        Path("told") + "'\n",
@@ -215,7 +218,9 @@ TEST_F(LinuxFilesTest, RefusesWhatIsNoRegularFileAtOnce) {
 }
 
 TEST_F(LinuxFilesTest, TellsPathNumberAndWhatWentWrong) {
-    const std::string below = plain + "/below", missing = folder.Path("none/file"), cut = plain + '\0';
+    const std::string below = plain + "/below";
+    const std::string missing = folder.Path("none/file");
+    const std::string cut = plain + '\0';
     ExpectFailure(ENOTDIR, below, "opened", [&] { files.OpenForOutput(below); });
     ExpectFailure(ENOENT, missing, "opened", [&] { files.OpenForInput(missing); });
     ExpectFailure(ENOTDIR, below, "created", [&] { files.CreatePrivate(below); });
@@ -252,7 +257,8 @@ TEST_F(LinuxFilesTest, CreatesAPrivateFileThatWasNotThere) {
 }
 
 TEST_F(LinuxFilesTest, KeepsWhatWasWrittenBeforeAFailure) {
-    const std::string source = folder.Put("source", std::string(200, 's')), copy = folder.Path("copy");
+    const std::string source = folder.Put("source", std::string(200, 's'));
+    const std::string copy = folder.Path("copy");
     rlimit before{};
     ::getrlimit(RLIMIT_FSIZE, &before);
     const rlimit limit{100, before.rlim_max};
@@ -271,7 +277,8 @@ TEST(LinuxRegistry, AnswersWithTheFirstSystemInformationProgram) {
     LinuxRegistry registry;
     RegistryKey key = 7;
     std::array<char, 1024> buffer{};
-    std::uint32_t type = 0, size = buffer.size();
+    std::uint32_t type = 0;
+    std::uint32_t size = buffer.size();
     const auto open = [&](const char* path) {
         return registry.RegOpenKeyExA(HKEY_LOCAL_MACHINE_ROOT, path, 0, REGISTRY_ALL_ACCESS, key);
     };

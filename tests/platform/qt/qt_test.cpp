@@ -21,7 +21,8 @@ TEST(QtClipboard, PutsTheCharactersOfABlockOnTheClipboardAndKeepsToItsBlocks) {
     QClipboard& clipboard = *QGuiApplication::clipboard();
     clipboard.setText("before");
     QtClipboard board(fakes::WesternPage());
-    const GlobalHandle small = board.GlobalAlloc(66, 5), block = board.GlobalAlloc(66, 20);
+    const GlobalHandle small = board.GlobalAlloc(66, 5);
+    const GlobalHandle block = board.GlobalAlloc(66, 20);
     board.lstrcpy(board.GlobalLock(small), "longer than the block");
     board.lstrcpy(board.GlobalLock(block), "Gr\xF6\xDF"
                                            "e \x80\r\n==\r\n");
@@ -192,7 +193,8 @@ TEST_F(QtCommonDialogTest, CancelLeavesTheNameAndEveryPromptStartsWhereTheLastEn
 /// A window that is a button, and counts how often it is pressed and closed.
 class Window : public QPushButton {
   public:
-    int handled = 0, closes = 0;
+    int handled = 0;
+    int closes = 0;
 
   protected:
     void nextCheckState() override { ++handled; }
@@ -216,7 +218,8 @@ class QtPointerAndMessage : public testing::Test {
     }
     /// Posts a double click, a blank, a turn of the wheel and a close.
     void PostInput() {
-        const QPointF middle = window.rect().center(), there = window.mapToGlobal(middle);
+        const QPointF middle = window.rect().center();
+        const QPointF there = window.mapToGlobal(middle);
         for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
                                 QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease})
             QCoreApplication::postEvent(&window, new QMouseEvent(type, middle, there, Qt::LeftButton,
@@ -331,7 +334,8 @@ TEST_F(QtPointerAndMessage, ShowsTextCaptionAndIconAndKeepsLongTextsOnTheScreen)
     messages.Show("<b>Größe</b> & more\r\nsecond\rthird");
     expectBox("Web Page not Opened", "URL Failed", QMessageBox::Warning);
     messages.ShowExclamation("Web Page not Opened", "URL Failed");
-    std::string lines, pairs = "x";
+    std::string lines;
+    std::string pairs = "x";
     for (int i = 0; i < 3000; ++i) {
         lines += std::to_string(i) + "\r\n";
         pairs += "😀";
@@ -351,8 +355,10 @@ TEST_F(QtPointerAndMessage, ShowsTextCaptionAndIconAndKeepsLongTextsOnTheScreen)
 TEST(QtSecondPress, OfADoubleClickCountsOnlyInTheSameWindow) {
     TestApplication();
     const QtSecondPress rule;
-    QPushButton below, above;
-    int pressedBelow = 0, pressedAbove = 0;
+    QPushButton below;
+    QPushButton above;
+    int pressedBelow = 0;
+    int pressedAbove = 0;
     below.setGeometry(0, 0, 400, 400);
     below.show();
     above.setGeometry(100, 100, 100, 100);
