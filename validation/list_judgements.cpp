@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <map>
 #include <numeric>
-#include <regex>
 #include <set>
 
 namespace orvane::validation {
@@ -97,8 +96,11 @@ std::vector<double> Values(const MadeList& list) {
 
 /// Whether `shown` is `value` with at most four decimals and no trailing zero.
 bool Shows(const std::string& shown, double value) {
-    static const std::regex picture("0(\\.[0-9]{0,3}[1-9])?");
-    return std::regex_match(shown, picture) && std::abs(std::stod(shown) - value) <= 0.00005 + Rounding;
+    constexpr std::size_t longest = 6; // "0." and four decimals
+    const bool decimals = shown.size() > 2 && shown.size() <= longest && shown.starts_with("0.") &&
+                          shown.find_first_not_of("0123456789", 2) == std::string::npos &&
+                          shown.back() != '0';
+    return (shown == "0" || decimals) && std::abs(std::stod(shown) - value) <= 0.00005 + Rounding;
 }
 
 /// The bytes of a file as UTF-8 text with LF line ends. Bytes are taken as Unicode code points, which is
@@ -236,15 +238,18 @@ Faults ValuesAboveTheLevel(const MadeList& list) {
 Faults ToldValues(const MadeList& list) {
     const std::vector<double> values = Values(list);
     const auto [least, most] = std::minmax_element(values.begin(), values.end());
-    static const std::regex one("P value of Runs test = ([0-9.]+)");
-    static const std::regex two("Runs test:\nMinimum P value = ([0-9.]+)\nMaximum P value = ([0-9.]+)");
-    std::smatch told;
+    const std::string one = "P value of Runs test = ";
+    const std::string minimum = "Runs test:\nMinimum P value = ";
+    const std::string maximum = "\nMaximum P value = ";
+    const std::string& told = list.RunsMessage;
+    const std::size_t second = told.find(maximum);
     const bool alike = *most - *least < Rounding;
-    if (!std::regex_match(list.RunsMessage, told, alike ? one : two))
-        return {"the message is \"" + list.RunsMessage + "\""};
-    if (Shows(told[1], *least) && (alike || Shows(told[2], *most)))
+    if (alike ? told.starts_with(one) && Shows(told.substr(one.size()), *least)
+              : told.starts_with(minimum) && second != std::string::npos &&
+                    Shows(told.substr(minimum.size(), second - minimum.size()), *least) &&
+                    Shows(told.substr(second + maximum.size()), *most))
         return {};
-    return {"the message is \"" + list.RunsMessage + "\", the P values are " + ValuesText(list)};
+    return {"the message is \"" + told + "\", the P values are " + ValuesText(list)};
 }
 
 std::string ValuesText(const MadeList& list) {
