@@ -106,7 +106,7 @@ TEST_P(EnterTest, PressesTheDefaultButtonFromEveryControl) {
     Window options = user.OpenOptions();
     user.Fill(OptionsTitle, "Size of Equal Blocks", "4");
     desktop.Press({"Return"});
-    const fs::path list = user.Folder() / GetParam() / "first list.txt";
+    const fs::path list = desktop.Folder() / GetParam() / "first list.txt";
     fs::create_directories(list.parent_path());
     user.Answer(desktop.Await(SaveListTitle), list.string());
     user.AwaitViewer("reader", list);
