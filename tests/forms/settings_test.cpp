@@ -1,22 +1,10 @@
 // Settings files, read and written through the main window.
 
-#include "fakes/desktop.h"
-#include "fakes/settings_text.h"
-#include "forms/flex_grid_widget.h"
-#include "forms/line_box.h"
-#include "forms/main_form.h"
 #include "settings/settings_file.h"
-#include "window_driver.h"
-
-#include <QAction>
+#include "windows.h"
 
 namespace orvane {
 namespace {
-
-using namespace fakes;
-
-const std::string SavedPath = "/program/saved.stg";
-const std::string Loaded = "Settings were loaded successfully!";
 
 Texts LinesOf(std::string bytes) {
     Texts lines;
@@ -24,90 +12,55 @@ Texts LinesOf(std::string bytes) {
         lines.push_back(bytes.substr(0, end));
     return lines;
 }
-std::string Joined(const Texts& lines, const std::string& lineEnd = "\r\n") {
+/// The bytes of the first `count` lines.
+std::string Joined(const Texts& lines, std::size_t count = 22) {
     std::string bytes;
-    for (const std::string& line : lines)
-        bytes += line + lineEnd;
+    for (std::size_t line = 0; line < count; ++line)
+        bytes += lines[line] + "\r\n";
     return bytes;
 }
 
-/// Two set-ups that have no value in common but the number of groups, line by line.
-const Texts Before = LinesOf(BytesOf({{"x", "y", "z"}, "7", 2, 1, 9, 1, "9", "8", 2}));
-const Texts File = LinesOf(BytesOf({{"Drug A", "Drug B", ""}, "60", 1, 0, 4, 2, " 4 - 6 ", "6,12", 1}));
+/// Two set-ups of 22 lines that have no value in common but the number of groups.
+const SettingsText Before{{"x", "y", "z"}, "7", 2, 1, 9, 1, "9", "8", 2};
+const SettingsText After{{"Drug A", "Drug B", ""}, "60", 1, 0, 4, 2, " 4 - 6 ", "6,12", 1};
+const Texts File = LinesOf(BytesOf(After));
 
-/// The first `count` lines of File, then those of Before.
-Texts LoadedUpTo(std::size_t count) {
-    Texts lines = Before;
-    std::copy_n(File.begin(), count, lines.begin());
-    return lines;
-}
-
-struct SettingsTest : testing::Test {
-    SettingsTest() {
-        desktop.files.Contents[SavedPath] = Joined(Before);
-        form.Open();
-        form.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+struct Settings : MainFormTest {
+    Settings() { Open(Before); }
+    /// What a file sets of which only so many lines count.
+    static std::string LoadedUpTo(std::size_t count) {
+        Texts lines = LinesOf(BytesOf(Before));
+        std::copy_n(File.begin(), count, lines.begin());
+        return Joined(lines);
     }
-    /// Triggers a menu item. Returns its only message, "report" for the error report.
-    std::string Trigger(const std::string& item, const std::optional<std::string>& answer) {
-        dialog.Answers = {answer};
-        Find<QAction>(form, item).trigger();
-        EXPECT_EQ(desktop.files.Open, 0);
-        const std::string text = desktop.messages.Take();
-        return text.starts_with("Error Description: ") ? "report" : text;
-    }
-    std::string Save() { return Trigger("mnuFile_1", "/s.stg"); }
-    std::string Load(const std::string& bytes) {
-        desktop.files.Contents["/l.stg"] = bytes;
-        return Trigger("mnuFile_0", "/l.stg");
-    }
-    /// The lines of what "Save Settings" writes.
-    Texts State() {
-        EXPECT_EQ(Save(), "Settings were saved successfully!");
-        return LinesOf(desktop.files.Contents["/s.stg"]);
-    }
-    struct Opening {
-        std::function<void()> ShowModal;
-    };
-    void WithOptions(const Script& script) {
-        Opening opening{[this] { Find<QAction>(form, "mnuView_1").trigger(); }};
-        WhileOpen(opening, script);
-    }
-
-    FakeDesktop desktop;
-    ScriptedDialog dialog;
-    ScriptedDialog outputDialog;
-    MainForm form{desktop.platform, dialog, outputDialog};
 };
 
-TEST_F(SettingsTest, AreWrittenByteForByteAndReadBackThroughTheirPrompts) {
-    EXPECT_EQ(State(), Before);
+TEST_F(Settings, AreWrittenByteForByteAndReadBackThroughTheirPrompts) {
+    EXPECT_EQ(Saved(), BytesOf(Before));
     dialog.Flags = 7;
-    EXPECT_EQ(Load(Joined(File)), Loaded);
-    EXPECT_EQ(State(), File);
-    EXPECT_EQ(desktop.files.Contents["/s.stg"], Joined(File));
+    EXPECT_EQ(Load(BytesOf(After)), Loaded);
+    EXPECT_EQ(Saved(), BytesOf(After));
     const std::string filter = "|Settings file (*.stg)|*.stg";
     const std::string save = "save 2, settings|Save Settings As..." + filter;
     EXPECT_EQ(dialog.Shown, (Texts{save, "open 7, settings|Select the Settings file" + filter, save}));
     EXPECT_EQ(dialog.DefaultExt, "htm");
-    const auto& grid = Find<FlexGridWidget>(form, "GroupNameGrid");
-    EXPECT_EQ(grid.Row() * 10 + grid.Col(), 31);
-    WithOptions([](QDialog& window) {
-        EXPECT_EQ(Find<LineBox>(window, "txtLevel").text(), "0.05");
-        Click(window, "cmdCancel");
-    });
+    EXPECT_EQ(Grid().Row() * 10 + Grid().Col(), 31);
+    WithOptions([&] { Choose("mnuView_1"); },
+                [](QDialog& window) {
+                    EXPECT_EQ(Find<LineBox>(window, "txtLevel").text(), "0.05");
+                    Click(window, "cmdCancel");
+                });
 }
 
-TEST_F(SettingsTest, AFileThatEndsEarlyAppliesTheLinesBeforeItsEnd) {
+TEST_F(Settings, AFileThatEndsEarlyAppliesTheLinesBeforeItsEnd) {
     for (std::size_t lines = 0; lines < File.size(); ++lines) {
-        Load(Joined(Before));
-        EXPECT_EQ(Load(Joined({File.begin(), File.begin() + static_cast<std::ptrdiff_t>(lines)})), "report");
-        EXPECT_EQ(State(), LoadedUpTo(lines)) << lines << " lines";
+        Load(BytesOf(Before));
+        EXPECT_EQ(Load(Joined(File, lines)), "report");
+        EXPECT_EQ(Saved(), LoadedUpTo(lines)) << lines << " lines";
     }
 }
 
-TEST_F(SettingsTest, AValueIsTakenOrEndsTheLoad) {
+TEST_F(Settings, AValueIsTakenOrEndsTheLoad) {
     // The line that is replaced; the texts that stand there, and what is saved for them, "" for a refusal.
     const std::vector<std::tuple<std::size_t, Texts, std::string>> rows = {
         {2, {"1", "17", "", "abc", "-3", "16.6", "40000", "1E999"}, ""},
@@ -124,61 +77,50 @@ TEST_F(SettingsTest, AValueIsTakenOrEndsTheLoad) {
         {22, {"1.5"}, "2"}};
     for (const auto& [line, texts, saved] : rows)
         for (const std::string& text : texts) {
-            Load(Joined(Before));
+            Load(BytesOf(Before));
             Texts lines = File;
             lines[line - 1] = text;
             EXPECT_EQ(Load(Joined(lines)), saved.empty() ? "report" : Loaded);
-            Texts expected = saved.empty() ? LoadedUpTo(line - 1) : File;
-            if (!saved.empty())
-                expected[line - 1] = saved;
-            EXPECT_EQ(State(), expected) << line << ": " << text;
+            lines[line - 1] = saved;
+            EXPECT_EQ(Saved(), saved.empty() ? LoadedUpTo(line - 1) : Joined(lines)) << line << ": " << text;
         }
 }
 
-TEST_F(SettingsTest, WhatNoLineCanHoldIsRefusedBeforeTheFileIsOpenedAndReplacedAtTheEnd) {
-    auto& grid = Find<FlexGridWidget>(form, "GroupNameGrid");
-    std::int16_t row = 0;
-    desktop.files.Contents["/s.stg"] = "kept";
-    const auto refused = [&] { return Save() + desktop.files.Contents["/s.stg"]; };
+TEST_F(Settings, WhatNoLineCanHoldIsRefusedBeforeTheFileIsOpenedAndReplacedAtTheEnd) {
+    const auto refused = [&] {
+        desktop.files.Contents["/s.stg"] = "kept";
+        return Choose("mnuFile_1", "/s.stg") + desktop.files.Contents["/s.stg"];
+    };
     const std::string tooLarge(SettingsFile::LargestFile, 'x');
-    for (const std::string& text : {std::string("a\rb"), std::string("a\u2265b"), tooLarge}) {
-        grid.SetRow(++row);
-        grid.SetText(text);
+    for (std::int16_t row = 0; const std::string& text : {"a\rb"s, "a\u2265b"s, tooLarge}) {
+        Grid().SetRow(++row);
+        Grid().SetText(text);
         EXPECT_EQ(refused(), "reportkept");
-        grid.SetText("a");
+        Grid().SetText("a");
     }
-    for (const auto& [size, sizes] : {std::pair("\u2265", "4"), {"4", "\u2265"}}) {
-        WithOptions([s = QString(size), list = QString(sizes)](QDialog& window) {
-            Click(window, "BlkOpt_0");
-            Find<LineBox>(window, "EqBlockSizeTxt").setText(s);
-            Find<LineBox>(window, "UnEqBlockSizeTxt").setText(list);
-            Click(window, "cmdOK");
-        });
-        EXPECT_EQ(refused(), "reportkept");
-    }
-    grid.SetText("a\u2265\rb");
-    form.close();
+    Grid().SetText("a\u2265\rb");
+    form->close();
     EXPECT_NE(desktop.messages.Take().find("were saved as \"?\": \"\u2265\" (U+2265), a line end\r\n"),
               std::string::npos);
     EXPECT_EQ(LinesOf(desktop.files.Contents[SavedPath])[5], "a??b");
 }
 
-TEST_F(SettingsTest, WhatFailsIsReportedOnceAndACancelIsQuiet) {
+TEST_F(Settings, WhatFailsIsReportedOnceAndACancelIsQuiet) {
     for (const char* call : {"OpenForOutput", "Write", "Close"}) {
         desktop.files.Fails = {call};
-        EXPECT_EQ(Save(), "report") << call;
+        EXPECT_EQ(Choose("mnuFile_1", "/s.stg"), "report") << call;
     }
     desktop.files.Fails.clear();
-    EXPECT_EQ(Trigger("mnuFile_0", "/missing.stg"), "report");
+    EXPECT_EQ(Choose("mnuFile_0", "/missing.stg"), "report");
     desktop.files.Log.clear();
     for (const std::string item : {"mnuFile_0", "mnuFile_1"}) {
-        EXPECT_EQ(Trigger(item, std::nullopt), "");
+        EXPECT_EQ(Choose(item, std::nullopt), "");
         dialog.Fails = {"open ", "save "};
-        EXPECT_EQ(Trigger(item, "/s.stg"), "report");
+        EXPECT_EQ(Choose(item, "/s.stg"), "report");
         dialog.Fails.clear();
     }
     EXPECT_EQ(desktop.files.Log, Texts{});
-    EXPECT_EQ(State(), Before);
+    EXPECT_EQ(Saved(), BytesOf(Before));
 }
 
 } // namespace
