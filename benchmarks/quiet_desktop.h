@@ -93,7 +93,7 @@ class FilesInMemory : public Files {
 /// Fixed names of the groups.
 class FixedNames : public MSFlexGrid {
   public:
-    explicit FixedNames(const std::vector<std::string>& names) : names_(names) {}
+    explicit FixedNames(std::vector<std::string> names) : names_(std::move(names)) {}
     [[nodiscard]] std::int16_t Rows() const override { return static_cast<std::int16_t>(names_.size() + 1); }
     void SetRows(std::int16_t /*rows*/) override {}
     [[nodiscard]] std::int16_t Row() const override { return 1; }
