@@ -63,8 +63,8 @@ void SettingsFile::SaveSettings(const std::string& FileNameStr, bool Announce, U
 }
 
 std::vector<std::string> SettingsFile::TypedTexts() const {
-    std::vector<std::string> texts{settings_.prEqBlockSize, settings_.prUnEqBlockSize};
-    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g)
+    std::vector<std::string> texts{list_.prEqBlockSize, list_.prUnEqBlockSize};
+    for (std::int16_t g = 1; g <= list_.NumberOfGroups; ++g)
         texts.push_back(groupNames_.TextMatrix(g, 1));
     return texts;
 }
@@ -112,23 +112,23 @@ void SettingsFile::WriteValues(TextFileWriter& file) {
         std::replace(text.begin(), text.end(), CarriageReturn, '?');
         file.WriteLine(text);
     };
-    WriteNumber(file, label::NumberOfGroups, settings_.NumberOfGroups);
+    WriteNumber(file, label::NumberOfGroups, list_.NumberOfGroups);
     file.WriteLine(label::Groups);
     groupNames_.SetCol(1);
-    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g) {
+    for (std::int16_t g = 1; g <= list_.NumberOfGroups; ++g) {
         groupNames_.SetRow(g);
         writeText(groupNames_.Text());
     }
-    WriteNumber(file, label::SampleSize, settings_.SampleSize);
-    WriteNumber(file, label::CodeAlphaNum, settings_.CodeAlphaNum);
-    WriteNumber(file, label::CodeSeqRandom, settings_.CodeSeqRandom);
-    WriteNumber(file, label::CodeLength, settings_.CodeLength);
-    WriteNumber(file, label::BlockOption, settings_.prBlockOption);
+    WriteNumber(file, label::SampleSize, list_.SampleSize);
+    WriteNumber(file, label::CodeAlphaNum, list_.CodeAlphaNum);
+    WriteNumber(file, label::CodeSeqRandom, list_.CodeSeqRandom);
+    WriteNumber(file, label::CodeLength, list_.CodeLength);
+    WriteNumber(file, label::BlockOption, list_.prBlockOption);
     file.WriteLine(label::EqBlockSize);
-    writeText(settings_.prEqBlockSize);
+    writeText(list_.prEqBlockSize);
     file.WriteLine(label::UnEqBlockSize);
-    writeText(settings_.prUnEqBlockSize);
-    WriteNumber(file, label::OutputOption, settings_.OutputOption);
+    writeText(list_.prUnEqBlockSize);
+    WriteNumber(file, label::OutputOption, list_.OutputOption);
 }
 
 void SettingsFile::SetSettings(const std::string& FileNameStr, bool Announce) {
@@ -136,7 +136,7 @@ void SettingsFile::SetSettings(const std::string& FileNameStr, bool Announce) {
         return;
     WithFailurePath(desktop_.Messages, false, [&] {
         ReadValues(FileNameStr);
-        settings_.SigLevel = DefaultSigLevel;
+        list_.SigLevel = DefaultSigLevel;
         if (Announce)
             desktop_.Messages.Show("Settings were loaded successfully!");
     });
@@ -148,18 +148,18 @@ void SettingsFile::ReadValues(const std::string& FileNameStr) {
     controls_.SetNogHsb(Read16(file));
     file.ReadLine();
     groupNames_.SetCol(1);
-    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g) {
+    for (std::int16_t g = 1; g <= list_.NumberOfGroups; ++g) {
         groupNames_.SetRow(g);
         groupNames_.SetText(file.ReadLine());
     }
     controls_.SetSampSizeTxt(ReadValue(file));
-    settings_.CodeAlphaNum = Read32(file);
-    settings_.CodeSeqRandom = Read32(file);
-    settings_.CodeLength = Read16(file);
-    settings_.prBlockOption = Read32(file);
-    settings_.prEqBlockSize = ReadValue(file);
-    settings_.prUnEqBlockSize = ReadValue(file);
-    mnuOutput_Click(Read16(file), menu_, settings_);
+    list_.CodeAlphaNum = Read32(file);
+    list_.CodeSeqRandom = Read32(file);
+    list_.CodeLength = Read16(file);
+    list_.prBlockOption = Read32(file);
+    list_.prEqBlockSize = ReadValue(file);
+    list_.prUnEqBlockSize = ReadValue(file);
+    mnuOutput_Click(Read16(file), menu_, list_);
 }
 
 } // namespace orvane

@@ -30,9 +30,9 @@ class MainControls {
 
 class SettingsFile {
   public:
-    SettingsFile(ListSettings& settings, MSFlexGrid& groupNames, MainControls& controls, OutputMenu& menu,
+    SettingsFile(ListSettings& list, MSFlexGrid& groupNames, MainControls& controls, OutputMenu& menu,
                  Platform& desktop)
-        : settings_(settings), groupNames_(groupNames), controls_(controls), menu_(menu), desktop_(desktop) {}
+        : list_(list), groupNames_(groupNames), controls_(controls), menu_(menu), desktop_(desktop) {}
 
     /// Writes the current inputs into the file, replacing it; with `Announce`, shows a message afterwards.
     /// The name cell of the last group becomes the current cell of the grid. For a character that the code
@@ -62,7 +62,7 @@ class SettingsFile {
     void WriteValues(TextFileWriter& file);
     void ReadValues(const std::string& FileNameStr);
 
-    ListSettings& settings_;
+    ListSettings& list_;
     MSFlexGrid& groupNames_;
     MainControls& controls_;
     OutputMenu& menu_;
