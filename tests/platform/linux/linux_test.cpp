@@ -89,8 +89,6 @@ TEST(GioShell, StartsProgramsAndTellsWhatDoesNotStart) {
         EXPECT_EQ(failure.Number, failure_number::CannotStart);
         EXPECT_NE(failure.Description.find(program), std::string::npos) << failure.Description;
     }
-    std::string program;
-    EXPECT_LE(shell.FindExecutableA(folder.Path("missing.htm"), program), 32);
 }
 
 class LinuxFilesTest : public testing::Test {
@@ -141,7 +139,6 @@ TEST_F(LinuxFilesTest, TellsPathNumberAndWhatWentWrong) {
     const std::string below = plain + "/below";
     const std::string cut = plain + '\0';
     ExpectFailure(ENOTDIR, below, "created", [&] { files.CreatePrivate(below); });
-    ExpectFailure(ENOTDIR, below, "deleted", [&] { files.Delete(below); });
     ExpectFailure(ENOTDIR, below, "opened", [&] { files.Copy(below, plain); });
     ExpectFailure(ENOENT, cut, "opened", [&] { files.OpenForOutput(cut); });
     const int next = ::dup(0); // the number that the file gets
@@ -199,8 +196,7 @@ TEST(LinuxClock, CountsFromLocalMidnightWithFractions) {
     for (const auto& [zone, offset] : {std::pair("XXX-5:30", 19800), std::pair("XXX+11", -39600)}) {
         ::setenv("TZ", zone, 1);
         ::tzset();
-        const double seconds = LinuxClock().SecondsSinceMidnight();
-        const double late = static_cast<double>(std::time(nullptr)) + offset - seconds;
+        const double late = double(std::time(nullptr)) + offset - LinuxClock().SecondsSinceMidnight();
         EXPECT_LE(std::abs(std::remainder(late, 86400.0)), 1.1) << zone;
     }
     float fraction = 0;

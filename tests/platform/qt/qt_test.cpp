@@ -125,7 +125,6 @@ TEST_F(QtWindowsTest, OpensExistingFilesUnderTheNameAsTyped) {
 TEST_F(QtWindowsTest, CancelLeavesTheNameAndAPromptStartsWhereTheLastEnded) {
     InNext<QFileDialog>([](QFileDialog& dialog) { Fill(dialog, "below/x", QDialogButtonBox::Save); });
     prompt.ShowSave();
-    EXPECT_EQ(prompt.FileName, PathOf("below/x.htm"));
     for (const std::string& offered : {std::string(), PathOf("gone/x.txt")}) {
         InNext<QFileDialog>([&](QFileDialog& dialog) {
             EXPECT_EQ(dialog.directory().absolutePath(), home.filePath("below"));
@@ -157,18 +156,17 @@ TEST_F(QtWindowsTest, AMessageShowsPlainTextAndKeepsLongTextsOnTheScreen) {
         box.accept();
     });
     messages.Show("<b>Größe</b> & more\r\nsecond\rthird");
-    const std::string lines = QString("line\r\n").repeated(3000).toStdString();
-    const std::string pairs = QString("😀").repeated(3000).toStdString();
-    for (const std::string& text : {lines, std::string(100000, 'x'), "x" + pairs, "x" + pairs + "y"}) {
+    const QString pairs = "x" + QString("😀").repeated(3000);
+    for (const QString& whole :
+         {QString("line\n").repeated(3000) + "end", QString(100000, 'x'), pairs, pairs + "y"}) {
         InNext<QMessageBox>([&](QMessageBox& box) {
             EXPECT_EQ(box.size().boundedTo(box.screen()->availableSize()), box.size());
             EXPECT_TRUE(box.text().isValidUtf16());
-            const QString whole = QString::fromStdString(text).trimmed();
             EXPECT_TRUE(box.text().startsWith(whole.at(0)) && box.text().trimmed().endsWith(whole.right(3)));
             EXPECT_FALSE(box.text().contains(QRegularExpression("[^\\s\u200B]{90}")));
             box.accept();
         });
-        messages.Show(text);
+        messages.Show(whole.toStdString());
     }
 }
 
