@@ -38,44 +38,26 @@ TEST(ChaCha, TwentyRoundsGiveThePublishedBlocks) {
 
 // The expected values come from an implementation of the cipher of its own, apart from this program.
 TEST(RandomSource, TheStreamIsThatOfItsKeyAndReseeds) {
-    using Listed = std::vector<std::pair<std::size_t, std::uint32_t>>; // index and 24 bits of a value
-    const auto expectBits = [](const std::vector<float>& values, const Listed& listed) {
-        for (const auto& [index, bits] : listed)
-            EXPECT_EQ(static_cast<std::uint32_t>(values.at(index) * 0x1p24F), bits) << index;
+    // 24 bits of the value at each index
+    const auto expectBits = [](const std::vector<float>& values, const std::vector<std::size_t>& indices,
+                               const std::vector<std::uint32_t>& bits) {
+        for (std::size_t k = 0; k < bits.size(); ++k)
+            EXPECT_EQ(static_cast<std::uint32_t>(values.at(indices.at(k)) * 0x1p24F), bits[k]) << indices[k];
     };
     SetEntropy entropy;
     RandomSource source(entropy);
     std::vector<float> values(1400);
     source.UniformFill(values);
-    expectBits(values, {{0, 0x8fb215},
-                        {1, 0x0f6e1a},
-                        {31, 0xbda559},
-                        {32, 0x6aab12},
-                        {127, 0x725a86},
-                        {128, 0x3312c5},
-                        {640, 0xd656a2},
-                        {671, 0x727780},
-                        {672, 0x880ebf},
-                        {1399, 0x4815de}});
+    expectBits(
+        values, {0, 1, 31, 32, 127, 128, 640, 671, 672, 1399},
+        {0x8fb215, 0x0f6e1a, 0xbda559, 0x6aab12, 0x725a86, 0x3312c5, 0xd656a2, 0x727780, 0x880ebf, 0x4815de});
     source.UniformReseed(43200.5F);
     source.UniformFill(std::span(values).first(800));
-    expectBits(values, {{0, 0xef6694},
-                        {1, 0xdec3a9},
-                        {2, 0x5e8c96},
-                        {3, 0x49abb6},
-                        {4, 0x94bcaf},
-                        {5, 0xbcd419},
-                        {6, 0x6cec0a},
-                        {7, 0x19f824},
-                        {8, 0x85f9cc},
-                        {9, 0xe665d2},
-                        {10, 0xedb6d2},
-                        {11, 0xca5f8b},
-                        {681, 0x4acbf1},
-                        {682, 0x53f8f7},
-                        {799, 0x8ad1da}});
+    expectBits(values, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 681, 682, 799},
+               {0xef6694, 0xdec3a9, 0x5e8c96, 0x49abb6, 0x94bcaf, 0xbcd419, 0x6cec0a, 0x19f824, 0x85f9cc,
+                0xe665d2, 0xedb6d2, 0xca5f8b, 0x4acbf1, 0x53f8f7, 0x8ad1da});
     source.UniformReseed(43200.5F);
-    expectBits({source.UniformNext()}, {{0, 0x06ee93}});
+    expectBits({source.UniformNext()}, {0}, {0x06ee93});
 }
 
 TEST(RandomSource, WithoutEntropyTheFirstUseFailsAndTheNextAsksAgain) {
