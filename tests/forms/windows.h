@@ -18,7 +18,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include <fstream>
 #include <tuple>
 
 namespace orvane {
@@ -32,40 +31,6 @@ Control& Find(QObject& window, const std::string& name) {
     if (found == nullptr)
         qFatal("no control %s", name.c_str());
     return *found;
-}
-
-/// The texts of all controls, "name: text|tool tip|name for assistive programs". Each has room for its text.
-inline std::string Wordings(QWidget& window) {
-    QString all = window.windowTitle() + (window.isModal() ? ", modal\n" : "\n");
-    for (QWidget* control : window.findChildren<QWidget*>()) {
-        const QVariant title = control->property("title");
-        QString text = (title.isValid() ? title : control->property("text")).toString();
-        const auto* label = qobject_cast<QLabel*>(control);
-        if (label != nullptr) {
-            EXPECT_LE(label->heightForWidth(label->width()), label->height()) << text.toStdString();
-        } else if (!text.isEmpty() && !control->isWindow() && qobject_cast<LineBox*>(control) == nullptr) {
-            EXPECT_GE(control->width(), control->minimumSizeHint().width()) << text.toStdString();
-        }
-        if (const auto* menu = qobject_cast<QMenu*>(control))
-            for (const QAction* item : menu->actions())
-                text += ", " + (item->isSeparator() ? "-" : item->text()) +
-                        (item->isEnabled() ? "" : " (off)") + (item->isChecked() ? " (x)" : "");
-        if (const auto* tabs = qobject_cast<QTabBar*>(control))
-            for (int tab = 0; tab < tabs->count(); ++tab)
-                text += tabs->tabText(tab) + " (" + tabs->tabToolTip(tab) + ") ";
-        const QString names = control->toolTip() + "|" + control->accessibleName();
-        const bool ownedByToolkit =
-            control->objectName().startsWith("qt_") || qobject_cast<QTabBar*>(control->parent()) != nullptr;
-        if (!ownedByToolkit && (text + names).size() > 1)
-            all += control->objectName() + ": " + text + "|" + names + "\n";
-    }
-    return all.toStdString();
-}
-
-/// The content of a file of this folder, which tells all wordings of a window.
-inline std::string Told(const std::string& file) {
-    std::ifstream text(WINDOWS "/" + file);
-    return {std::istreambuf_iterator<char>(text), {}};
 }
 
 inline std::string Focused(const QWidget& window) {
