@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <sstream>
 #include <tuple>
 
 namespace orvane {
@@ -86,63 +87,50 @@ TEST(SubjectCodes, AListThatNeedsMoreCodesThanThereAreIsRefusedAtOnce) {
     }
 }
 
-std::vector<std::int16_t> Numbers(const std::string& digits) {
-    std::vector<std::int16_t> numbers;
-    for (const char c : digits)
-        numbers.push_back(static_cast<std::int16_t>(c - '0'));
-    return numbers;
-}
-
 TEST(RunsTest, GivesThePublishedFigures) {
-    const std::vector<std::tuple<std::string, int, int, int, double>> rows = {
-        {"1110010101110101", 6, 10, 11, 1.386750},
-        {"1111122222233333333", 11, 8, 2, -4.007095978613213},
-        {"0001011001100110001011100", 14, 11, 13, -0.1327477},
-        {"1221", 2, 2, 3, 0},
-        {"1122", 2, 2, 2, -1.2247449},
-        {"1212", 2, 2, 4, 1.2247449},
-        {"112", 2, 1, 2, -0.7071068},
-        {"123123", 2, 4, 4, 0.3535534}}; // the middle group counts with the upper one
+    // The middle group of the last block counts with the upper one.
+    std::istringstream rows(
+        "1110010101110101 6 10 11 1.386750  1111122222233333333 11 8 2 -4.007095978613213 "
+        "0001011001100110001011100 14 11 13 -0.1327477  1221 2 2 3 0  1122 2 2 2 -1.2247449 "
+        "1212 2 2 4 1.2247449  112 2 1 2 -0.7071068  123123 2 4 4 0.3535534");
     FakeDesktop desktop;
-    for (const auto& [block, n0, n1, runs, z] : rows) {
-        const RunsCounts counts = CountRuns(Numbers(block));
-        EXPECT_EQ(std::tuple(counts.n0, counts.n1, counts.runs), std::tuple(n0, n1, runs)) << block;
+    std::string block;
+    RunsCounts expected{};
+    for (double z = 0; rows >> block >> expected.n0 >> expected.n1 >> expected.runs >> z;) {
+        const std::vector<std::int16_t> numbers(block.begin(), block.end());
+        const RunsCounts counts = CountRuns(numbers);
+        EXPECT_EQ(std::tuple(counts.n0, counts.n1, counts.runs),
+                  std::tie(expected.n0, expected.n1, expected.runs))
+            << block;
         EXPECT_NEAR(RunsStatistic(counts), z, 1e-6) << block;
         const double density = std::exp(-z * z / 2) / std::sqrt(2 * std::acos(-1.0));
-        EXPECT_NEAR(GetRandomness(Numbers(block), desktop.messages), density, density * 1e-5) << block;
+        EXPECT_NEAR(GetRandomness(numbers, desktop.messages), density, density * 1e-5) << block;
     }
+    EXPECT_EQ(block, "123123") << "all rows were read";
     // The expected number of runs and the statistic are 32-bit floats.
     EXPECT_EQ(RunsPValue(RunsStatistic({1, 2, 2})), 0.310696602F);
     EXPECT_EQ(RunsPValue(RunsStatistic({1, 4, 3})), 0.285854578F);
-}
-
-TEST(RunsTest, AFailureOfAnotherKindThanTheStatisticsShowsNoMessage) {
-    FakeDesktop desktop;
-    std::vector<std::int16_t> tooManyRuns;
-    for (int i = 0; i < 40'000; ++i)
-        tooManyRuns.push_back(static_cast<std::int16_t>(1 + i % 2));
-    EXPECT_EQ(GetRandomness(tooManyRuns, desktop.messages), 0);
+    std::vector<std::int16_t> tooManyRuns(40'000, 1);
+    for (std::size_t i = 0; i < tooManyRuns.size(); i += 2)
+        tooManyRuns[i] = 2;
+    EXPECT_EQ(GetRandomness(tooManyRuns, desktop.messages), 0) << "and shows no message";
     EXPECT_FALSE(CanPassRunsTest({}, 0.0001F));
 }
 
 TEST(RunsTest, WhetherABlockCanPassIsWhatTryingEveryArrangementSays) {
     FakeDesktop desktop;
-    for (std::string block : {"112", "1222", "1112", "1122", "12222", "11122", "123", "112233", "11112222",
-                              "1222222", "11111222"}) {
+    for (const std::string& block : Texts{"112", "1222", "1112", "1122", "12222", "11122", "123", "112233",
+                                          "11112222", "1222222", "11111222"}) {
+        std::vector<std::int16_t> numbers(block.begin(), block.end());
         float best = 0;
         do
-            best = std::max(best, GetRandomness(Numbers(block), desktop.messages));
-        while (std::next_permutation(block.begin(), block.end()));
-        EXPECT_FALSE(CanPassRunsTest(Numbers(block), best)) << block << ": an equal P value does not pass";
-        EXPECT_TRUE(CanPassRunsTest(Numbers(block), std::nextafter(best, 0.0F))) << block;
+            best = std::max(best, GetRandomness(numbers, desktop.messages));
+        while (std::next_permutation(numbers.begin(), numbers.end()));
+        EXPECT_FALSE(CanPassRunsTest(numbers, best)) << block << ": an equal P value does not pass";
+        EXPECT_TRUE(CanPassRunsTest(numbers, std::nextafter(best, 0.0F))) << block;
     }
-}
-
-TEST(RunsTest, ANameIsTheNumberOfTheFirstRowThatHoldsIt) {
     const MemoryGrid grid({"A", "a", "A", ""});
-    EXPECT_EQ(GetIntName(grid, "A"), 1);
-    EXPECT_EQ(GetIntName(grid, ""), 4);
-    EXPECT_EQ(GetIntName(grid, "B"), 0);
+    EXPECT_EQ(GetIntName(grid, "A") * 100 + GetIntName(grid, "") * 10 + GetIntName(grid, "B"), 140);
 }
 
 /// A source that gives 0 exchanges position 1 with itself, so that the groups stay as they were dealt.

@@ -94,20 +94,12 @@ TEST(RandomSource, AReseedOverwritesTheValuesThatWerePrepared) {
 }
 
 TEST(RandomDraws, RoundToNearestAndTiesToEven) {
-    constexpr float Largest = 0x1.fffffep-1F;
-    const std::vector<std::tuple<int, int, float, int>> rows = {{1, 4, 0, 1},
-                                                                {1, 4, 0.1F, 1},
-                                                                {1, 4, 0.25F, 2},
-                                                                {1, 4, Largest, 4},
-                                                                {1, 1, 0.7F, 1},
-                                                                {0, 1, 0.5F, 0},
-                                                                {0, 3, 0.5F, 2},
-                                                                {0, 1, 0.50001F, 1},
-                                                                {-3, 3, 0.25F, -1},
-                                                                {5, 2, 0.5F, 3},
-                                                                {0, 32767, Largest, 32767},
-                                                                {-32768, -1, Largest, -1},
-                                                                {0, 32767, 0.5F, 16384}};
+    constexpr float Most = 0x1.fffffep-1F;
+    const std::vector<std::tuple<int, int, float, int>> rows = {
+        {1, 4, 0, 1},           {1, 4, 0.1F, 1}, {1, 4, 0.25F, 2},        {1, 4, Most, 4},
+        {1, 1, 0.7F, 1},        {0, 1, 0.5F, 0}, {0, 3, 0.5F, 2},         {0, 1, 0.50001F, 1},
+        {-3, 3, 0.25F, -1},     {5, 2, 0.5F, 3}, {0, 32767, Most, 32767}, {-32768, -1, Most, -1},
+        {0, 32767, 0.5F, 16384}};
     for (const auto& [Lo, Hi, U, drawn] : rows) {
         ListedSource source({U});
         EXPECT_EQ(DrawRandomInt(source, static_cast<std::int16_t>(Lo), static_cast<std::int16_t>(Hi)), drawn)

@@ -2,6 +2,8 @@
 #include "options/option_validation.h"
 
 #include <limits>
+#include <map>
+#include <sstream>
 #include <tuple>
 
 namespace orvane {
@@ -85,91 +87,61 @@ TEST(BlockSizeList, RefusesWithTheMessagesInOrderAndTheFocusOnTheField) {
         {{BadValue, Please}, {"2-40000-6", "--", "7,0", "0,40000", "6,8,5-3,0-0"}},
         {{Indivisible, Please}, {"6,8,10,12-16", "12-13", "7", "6,7", "1-32766", "1-32766,2", "32767"}},
     };
-    for (const auto& [messages, texts] : rows)
-        for (const std::string& text : texts) {
-            SCOPED_TRACE(text.substr(0, 40));
-            OptionsBench bench(2, 32767);
-            bench.Option(RandomSizesOf, text, {0, Highest});
-            bench.Expect(messages,
-                         messages.size() == 2 ? "UnEqBlockSizeTxt UnEqBlockSizeTxt " : "UnEqBlockSizeTxt ");
-            EXPECT_TRUE(messages.size() == 1 || bench.desktop.random.ReseededAt.empty());
-        }
+    const std::vector<std::pair<Texts, Texts>> equal = {
+        {{"please specify the block size"},
+         {"abc", "", "0", "-4", "0.4", "0.5", "-0.4", "1E-400", "1E999", "-1E999", "inf"}},
+        {{"Block size must be divisable by the number of groups"},
+         {"5", "0.6", "32767", "40001", "2147483648", "3E9", "1E300"}},
+        {{"the block size can be at most 32767"}, {"32768", "40000", "2147483646"}}};
+    for (const BlockOptions option : {RandomSizesOf, EqualSize})
+        for (const auto& [messages, texts] : option == EqualSize ? equal : rows)
+            for (const std::string& text : texts) {
+                SCOPED_TRACE(text.substr(0, 40));
+                OptionsBench bench(2, 32767);
+                bench.Option(option, text, {0, Highest});
+                const std::string field = option == EqualSize ? "EqBlockSizeTxt " : "UnEqBlockSizeTxt ";
+                bench.Expect(messages, messages.size() == 2 ? field + field : field);
+                EXPECT_TRUE(messages.size() == 1 || bench.desktop.random.ReseededAt.empty());
+            }
 }
 
-TEST(BlockSizeList, DrawsBlocksUntilTheyReachTheSampleSize) {
+TEST(BlockSizeList, BlocksGoOnUntilTheyReachTheSampleSize) {
     const auto slot = [](int wanted, int last) { return UniformFor(1, last, wanted); };
     const Values even = {.0625, .1875, .3125, .4375, .5625, .6875, .8125, .9375};
-    const std::vector<std::tuple<std::string, int, int, Values, Blocks>> rows = {
-        {"6, 8,10", 2, 20, {slot(2, 3), slot(3, 3), slot(1, 3)}, {8, 10, 6}},
-        {"12-12", 2, 20, {}, {12, 12}},
-        {"16-12,4", 2, 6, {}, {4, 4}},
-        {"4 ,6-9,8", 1, 15, {slot(6, 6), slot(5, 6)}, {8, 9}},
-        {"1 2", 2, 1, {}, {12}},
-        {"006", 3, 12, {}, {6, 6}}, // an exact fit ends the drawing
-        {std::string(32765, ' ') + "6", 2, 5, {}, {6}},
+    const std::vector<std::tuple<BlockOptions, std::string, int, int, Values, Blocks>> rows = {
+        {RandomSizesOf, "6, 8,10", 2, 20, {slot(2, 3), slot(3, 3), slot(1, 3)}, {8, 10, 6}},
+        {RandomSizesOf, "16-12,4", 2, 6, {}, {4, 4}},
+        {RandomSizesOf, "4 ,6-9,8", 1, 15, {slot(6, 6), slot(5, 6)}, {8, 9}},
+        {RandomSizesOf, "1 2", 2, 1, {}, {12}},
+        {RandomSizesOf, "006", 3, 12, {}, {6, 6}}, // an exact fit ends the drawing
+        {RandomSizesOf, std::string(32765, ' ') + "6", 2, 5, {}, {6}},
         // The ends of the list come up half as often; a size written twice counts twice.
-        {"4,6,8", 2, 48, even, {4, 4, 6, 6, 6, 6, 8, 8}},
-        {"6,6,8", 2, 52, even, {6, 6, 6, 6, 6, 6, 8, 8}},
-        {"2", 2, 32766, {}, Blocks(16383, 2)}, // and fast
+        {RandomSizesOf, "4,6,8", 2, 48, even, {4, 4, 6, 6, 6, 6, 8, 8}},
+        {RandomSizesOf, "6,6,8", 2, 52, even, {6, 6, 6, 6, 6, 6, 8, 8}},
+        {RandomSizesOf, "2", 2, 32766, {}, Blocks(16383, 2)}, // and fast
+        {EqualSize, "10", 2, 100, {}, Blocks(11, 10)},
+        {EqualSize, "6", 3, 3, {}, {6}},
+        {EqualSize, "12abc", 2, 20, {}, {12, 12}},
+        {EqualSize, "2.5", 2, 20, {}, Blocks(11, 2)},
+        {EqualSize, "1 ", 1, 2, {}, {1, 1, 1}},
+        {RandomBlockSize, "", 2, 100, {}, {20, 20, 20, 20, 20, 20}}, // an exact fit gets one block more
+        {RandomBlockSize, "", 2, 100, {Highest, 0.5F, Highest}, {34, 28, 34, 20}},
+        {RandomBlockSize, "", 3, 60, {Highest, Highest}, {21, 21, 12, 12}},
+        {RandomBlockSize, "", 4, 32, {Highest, 0.5F, Highest}, {12, 8, 12, 4}},
+        {RandomBlockSize, "", 2, 1, {Highest}, {2}},
+        {RandomBlockSize, "", 2, 8, {Highest}, {2, 2, 2, 2, 2}},
+        {RandomBlockSize, "", 16, 1, {}, {16}},
+        {RandomBlockSize, "", 2, 18, {}, {4, 4, 4, 4, 4}}, // 1 + 9 gives a lower end of 2
     };
     OptionsBench bench;
-    for (const auto& [text, groups, sampleSize, draws, blocks] : rows) {
-        SCOPED_TRACE(text.substr(0, 40));
+    for (const auto& [option, text, groups, sampleSize, draws, blocks] : rows) {
+        SCOPED_TRACE(text.substr(0, 40) + " " + std::to_string(sampleSize));
         bench.Set(groups, sampleSize);
-        bench.Option(RandomSizesOf, text, draws);
+        bench.Option(option, text, draws);
         bench.Expect({}, "");
         EXPECT_EQ(bench.Drawn(), blocks);
-        EXPECT_EQ(bench.desktop.random.Consumed, blocks.size());
-        EXPECT_EQ(bench.desktop.random.ReseededAt, std::vector<std::size_t>{0});
-    }
-}
-
-TEST(OptionValidation, EqualBlocksAreRefusedOrLaidOut) {
-    const std::vector<std::pair<std::string, Texts>> refused = {
-        {"please specify the block size",
-         {"abc", "", "0", "-4", "0.4", "0.5", "-0.4", "1E-400", "1E999", "-1E999", "inf"}},
-        {"Block size must be divisable by the number of groups",
-         {"5", "0.6", "32767", "40001", "2147483648", "3E9", "1E300"}},
-        {"the block size can be at most 32767", {"32768", "40000", "2147483646"}}};
-    OptionsBench bench;
-    for (const auto& [message, texts] : refused)
-        for (const std::string& text : texts) {
-            SCOPED_TRACE(text);
-            bench.Option(EqualSize, text);
-            bench.Expect({message}, "EqBlockSizeTxt ");
-        }
-    const std::vector<std::tuple<std::string, int, int, Blocks>> laidOut = {
-        {"10", 2, 100, Blocks(11, 10)}, {"8", 2, 100, Blocks(13, 8)},  {"6", 3, 3, {6}},
-        {"12abc", 2, 20, {12, 12}},     {"2.5", 2, 20, Blocks(11, 2)}, {"3.5", 2, 20, Blocks(6, 4)},
-        {"1 ", 1, 2, {1, 1, 1}},        {"&HA", 2, 20, {10, 10, 10}}};
-    for (const auto& [text, groups, sampleSize, blocks] : laidOut) {
-        SCOPED_TRACE(text);
-        bench.Set(groups, sampleSize);
-        bench.Option(EqualSize, text);
-        bench.Expect({}, "");
-        EXPECT_EQ(bench.Drawn(), blocks);
-    }
-}
-
-TEST(OptionValidation, RandomBlocksGoOnUntilTheyPassTheSampleSize) {
-    const std::vector<std::tuple<int, int, Values, Blocks>> rows = {
-        {100, 2, {}, {20, 20, 20, 20, 20, 20}}, // an exact fit gets one block more
-        {100, 2, {Highest, 0.5F, Highest}, {34, 28, 34, 20}},
-        {60, 3, {Highest, Highest}, {21, 21, 12, 12}},
-        {32, 4, {Highest, 0.5F, Highest}, {12, 8, 12, 4}},
-        {1, 2, {Highest}, {2}},
-        {8, 2, {Highest}, {2, 2, 2, 2, 2}},
-        {1, 16, {}, {16}},
-        {18, 2, {}, {4, 4, 4, 4, 4}}, // 1 + 9 gives a lower end of 2
-    };
-    OptionsBench bench;
-    for (const auto& [sampleSize, groups, draws, blocks] : rows) {
-        SCOPED_TRACE(sampleSize);
-        bench.Set(groups, sampleSize);
-        bench.Option(RandomBlockSize, "", draws);
-        bench.Expect({}, "");
-        EXPECT_EQ(bench.Drawn(), blocks);
-        EXPECT_EQ(bench.desktop.random.ReseededAt, std::vector<std::size_t>{0});
+        EXPECT_EQ(bench.desktop.random.ReseededAt, std::vector<std::size_t>(option == EqualSize ? 0 : 1));
+        EXPECT_TRUE(option != RandomSizesOf || bench.desktop.random.Consumed == blocks.size());
     }
 }
 
@@ -198,46 +170,37 @@ TEST(OptionValidation, RefusesListsThatCannotBeMade) {
         return "a block of " + size + " subjects cannot pass the Runs test at level " + level +
                ", please choose other blocks, a lower level or no Runs test";
     };
-    struct Row {
-        int groups, sampleSize;
-        std::string size;    ///< of equal blocks; empty for one block
-        std::string message; ///< empty for a list that can be made
-        std::int16_t codeLength = 5;
-        CodeAlphabets alphabet = Numeric;
-        CodeOrders order = Sequential;
-        float level = 0; ///< of the Runs test, 0 for none
-    };
-    const std::vector<Row> rows = {{7, 32760, "7", ""}, // 4681 blocks of 7 are 32767 subjects
-                                   {2, 32766, "2", TooManySubjects},
-                                   {2, 30000, "20000", TooManySubjects, 2}, // before all else
-                                   {2, 10000, "20000", BlockTooLarge, 2},
-                                   {7, 20, "32767", BlockTooLarge},
-                                   {2, 14654, "", ""},
-                                   {2, 14655, "", BlockTooLarge},
-                                   {2, 90, "10", codes("2", "100"), 2},
-                                   {2, 90, "10", "", 2, Numeric, Random},
-                                   {2, 26, "", codes("1", "26"), 1, Alpha},
-                                   {2, 35, "", "", 1, Mixed},
-                                   {2, 2, "", codes("0", "2"), 0, Numeric, Sequential, 0.05F},
-                                   {2, 1, "", ""},
-                                   {2, 1, "", runs("1", "0.05"), 5, Numeric, Sequential, 0.05F},
-                                   {2, 3, "", "", 5, Numeric, Sequential, 0.3F},
-                                   {2, 14654, "", "", 5, Numeric, Sequential, 0.3F},
-                                   {4, 4, "", "", 5, Numeric, Sequential, 0.24F},
-                                   {4, 4, "", runs("4", "0.25"), 5, Numeric, Sequential, 0.25F}};
+    // Groups, sample size, size of equal blocks or 0 for one block, code length, alphabet and order, level of
+    // the Runs test or 0 for none, and the message with the subjects that it names.
+    std::istringstream rows(
+        "7 32760 7 5 1 0 0 - 0  2 32766 2 5 1 0 0 many 0  2 30000 20000 2 1 0 0 many 0 "
+        "2 10000 20000 2 1 0 0 large 0  7 20 32767 5 1 0 0 large 0  2 14654 0 5 1 0 0 - 0 "
+        "2 14655 0 5 1 0 0 large 0  2 90 10 2 1 0 0 codes 100  2 90 10 2 1 1 0 - 0 "
+        "2 26 0 1 0 0 0 codes 26  2 35 0 1 2 0 0 - 0  2 2 0 0 1 0 0.05 codes 2 "
+        "2 1 0 5 1 0 0 - 0  2 1 0 5 1 0 0.05 runs 1  2 3 0 5 1 0 0.3 - 0 "
+        "2 14654 0 5 1 0 0.3 - 0  4 4 0 5 1 0 0.24 - 0  4 4 0 5 1 0 0.25 runs 4");
     OptionsBench bench;
-    for (const Row& row : rows) {
-        SCOPED_TRACE(std::to_string(row.sampleSize) + " " + row.size + " " + row.message);
-        bench.Set(row.groups, row.sampleSize);
-        if (row.groups == 4) // one against three: the P value of a block of 4 is 0.2419707
+    std::array<int, 6> row{};
+    std::string level;
+    std::string kind;
+    std::string named;
+    while (rows >> row[0] >> row[1] >> row[2] >> row[3] >> row[4] >> row[5] >> level >> kind >> named) {
+        SCOPED_TRACE(std::to_string(row[1]) + " " + std::to_string(row[2]) + " " + level);
+        bench.Set(row[0], row[1]);
+        if (row[0] == 4) // one against three: the P value of a block of 4 is 0.2419707
             bench.grid.Names = {"a", "b", "b", "b"};
-        bench.Option(row.size.empty() ? OnlyOneBlock : EqualSize, row.size);
-        bench.settings.CodeLength = row.codeLength;
-        bench.settings.CodeAlphaNum = row.alphabet;
-        bench.settings.CodeSeqRandom = row.order;
-        bench.settings.PerformRuns = row.level > 0;
-        bench.settings.SigLevel = row.level;
-        bench.Expect(row.message.empty() ? Texts{} : Texts{row.message}, "");
+        bench.Option(row[2] == 0 ? OnlyOneBlock : EqualSize, std::to_string(row[2]));
+        bench.settings.CodeLength = static_cast<std::int16_t>(row[3]);
+        bench.settings.CodeAlphaNum = row[4];
+        bench.settings.CodeSeqRandom = row[5];
+        bench.settings.SigLevel = std::stof(level);
+        bench.settings.PerformRuns = level != "0";
+        const std::map<std::string, Texts> messages = {{"-", {}},
+                                                       {"many", {TooManySubjects}},
+                                                       {"large", {BlockTooLarge}},
+                                                       {"codes", {codes(std::to_string(row[3]), named)}},
+                                                       {"runs", {runs(named, level)}}};
+        bench.Expect(messages.at(kind), "");
     }
     bench.Set(3, 20);
     bench.grid.Names = {"a", "a", "a"};
@@ -247,11 +210,10 @@ TEST(OptionValidation, RefusesListsThatCannotBeMade) {
          "give the groups different names"},
         "");
     bench.Set(2, 20); // blocks that are drawn
-    bench.settings.PerformRuns = true;
-    bench.Option(RandomSizesOf, "2,18", {0.9F, 0});
-    bench.Expect({runs("2", "0.05")}, "");
-    bench.Option(RandomSizesOf, "2,18", {0, 0.9F});
-    bench.Expect({runs("2", "0.05")}, "");
+    for (const Values& draws : {Values{0.9F, 0}, Values{0, 0.9F}}) {
+        bench.Option(RandomSizesOf, "2,18", draws);
+        bench.Expect({runs("2", "0.05")}, "");
+    }
     bench.Set(2, 32767);
     bench.Option(RandomBlockSize);
     bench.Expect({TooManySubjects}, "");
