@@ -8,8 +8,6 @@
 #include "platform/ms_flex_grid.h"
 #include "platform/platform.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <deque>
 #include <numeric>
@@ -20,22 +18,18 @@ namespace orvane::fakes {
 using Texts = std::vector<std::string>;
 
 /// Keeps every message. A message that nobody has taken fails the test.
-class ScriptedMessageBox : public MessageBox {
-  public:
-    ScriptedMessageBox() = default;
-    ScriptedMessageBox(const ScriptedMessageBox&) = delete;
-    ScriptedMessageBox& operator=(const ScriptedMessageBox&) = delete;
-    ~ScriptedMessageBox() override { EXPECT_EQ(unread_, Texts{}) << "messages left unread"; }
+struct ScriptedMessageBox : MessageBox {
+    ~ScriptedMessageBox() override { EXPECT_EQ(Unread, Texts{}) << "messages left unread"; }
 
     void Show(const std::string& text) override {
-        unread_.push_back(text);
+        Unread.push_back(text);
         if (WhileShown)
             WhileShown();
     }
     void ShowExclamation(const std::string& text, const std::string& title) override {
         Show("(!) " + title + ": " + text);
     }
-    Texts TakeAll() { return std::exchange(unread_, {}); }
+    Texts TakeAll() { return std::exchange(Unread, {}); }
     /// The only unread message; "" when there is none.
     std::string Take() {
         const Texts texts = TakeAll();
@@ -44,19 +38,15 @@ class ScriptedMessageBox : public MessageBox {
     }
 
     std::function<void()> WhileShown; ///< runs while a message is open
-
-  private:
-    Texts unread_;
+    Texts Unread;
 };
 
 struct RecordingPointer : MousePointer {
-    void ShowBusy() override {
-        Busy = true;
-        Calls += 'B';
-    }
-    void ShowNormal() override {
-        Busy = false;
-        Calls += 'N';
+    void ShowBusy() override { Note(true); }
+    void ShowNormal() override { Note(false); }
+    void Note(bool busy) {
+        Busy = busy;
+        Calls += busy ? 'B' : 'N';
     }
     bool Busy = false;
     std::string Calls; ///< "B" and "N" in order
@@ -127,7 +117,7 @@ struct MemoryRegistry : Registry {
         std::string bytes{};
     };
     std::map<std::string, Value> Values;
-    Texts Asked; ///< "path|name" of each query
+    Texts Opened; ///< the paths of the keys, in order
     int Open = 0;
 
     std::int32_t RegOpenKeyExA(std::uint32_t root, const std::string& path, std::uint32_t /*options*/,
@@ -135,15 +125,14 @@ struct MemoryRegistry : Registry {
         const auto first = Values.lower_bound(path + "|");
         if (root != HKEY_LOCAL_MACHINE_ROOT || first == Values.end() || !first->first.starts_with(path + "|"))
             return 2;
-        paths_.push_back(path);
-        key = paths_.size();
+        Opened.push_back(path);
+        key = Opened.size();
         ++Open;
         return 0;
     }
     std::int32_t RegQueryValueExA(RegistryKey key, const std::string& name, std::uint32_t& type,
                                   std::span<char> buffer, std::uint32_t& size) override {
-        Asked.push_back(paths_.at(key - 1) + "|" + name);
-        const auto found = Values.find(Asked.back());
+        const auto found = Values.find(Opened.at(key - 1) + "|" + name);
         if (found == Values.end())
             return 2;
         type = found->second.type;
@@ -155,9 +144,6 @@ struct MemoryRegistry : Registry {
         --Open;
         return 0;
     }
-
-  private:
-    Texts paths_;
 };
 
 /// A file prompt that answers each show with the next of `Answers`: a path chosen, or nothing for a cancel.
@@ -169,16 +155,14 @@ struct ScriptedDialog : CommonDialog, Faults {
 
     void ShowOpen() override { Answer("open "); }
     void ShowSave() override { Answer("save "); }
-
-  private:
     void Answer(const std::string& kind) {
         Shown.push_back(kind + std::to_string(Flags) + ", " + FileName + "|" + DialogTitle + "|" + Filter);
         if (WhileShown)
             WhileShown();
         Try(kind);
-        const auto answer = Answers.empty() ? std::nullopt : Answers.front();
-        if (!Answers.empty())
-            Answers.pop_front();
+        Answers.resize(std::max<std::size_t>(Answers.size(), 1));
+        const auto answer = Answers.front();
+        Answers.pop_front();
         if (!answer)
             throw Failure("Cancel was selected.", failure_number::Cancelled, "CommonDialog");
         FileName = *answer;

@@ -3,10 +3,8 @@
 
 #include "platform/failure.h"
 
-#include <functional>
 #include <set>
 #include <string>
-#include <string_view>
 
 namespace orvane::fakes {
 

@@ -4,18 +4,13 @@
 #include "fakes/faults.h"
 #include "platform/files.h"
 
-#include <algorithm>
 #include <map>
-#include <memory>
-#include <string>
-#include <utility>
 #include <vector>
 
 namespace orvane::fakes {
 
 /// A Write that fails takes the first half of its bytes.
-class MemoryFiles : public Files, public Faults {
-  public:
+struct MemoryFiles : Files, Faults {
     std::map<std::string, std::string> Contents; ///< by path
     std::vector<std::string> Log;                ///< "OpenForOutput path" and so on, Copy with its target
     int Open = 0;                                ///< files open now
@@ -41,11 +36,8 @@ class MemoryFiles : public Files, public Faults {
     }
     bool Exists(const std::string& path) override { return Contents.contains(path); }
 
-  private:
     struct Handle {
         explicit Handle(MemoryFiles& files) : Files(files) { ++Files.Open; }
-        Handle(const Handle&) = delete;
-        Handle& operator=(const Handle&) = delete;
         ~Handle() { --Files.Open; }
         MemoryFiles& Files;
     };

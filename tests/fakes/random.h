@@ -9,15 +9,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdint>
-#include <utility>
 #include <vector>
 
 namespace orvane::fakes {
 
 /// Hands out `Values` in order, then 0 for ever.
-class ListedSource : public UniformSource, public Faults {
-  public:
+struct ListedSource : UniformSource, Faults {
     explicit ListedSource(std::vector<float> values = {}) : Values(std::move(values)) {}
 
     float UniformNext() override {

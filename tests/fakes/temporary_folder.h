@@ -4,29 +4,22 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
-#include <string>
-#include <string_view>
-#include <system_error>
 
 namespace orvane::fakes {
 
-class TemporaryFolder {
-  public:
-    TemporaryFolder() : path_(std::filesystem::temp_directory_path() / "orvane-XXXXXX") {
-        if (::mkdtemp(path_.data()) == nullptr)
+struct TemporaryFolder {
+    TemporaryFolder() : Root(std::filesystem::temp_directory_path() / "orvane-XXXXXX") {
+        if (::mkdtemp(Root.data()) == nullptr)
             throw std::runtime_error("cannot make a temporary folder");
     }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder() {
         std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
+        std::filesystem::remove_all(Root, ignored);
     }
 
-    [[nodiscard]] const std::string& Path() const { return path_; }
-    [[nodiscard]] std::string Path(const std::string& name) const { return path_ + "/" + name; }
+    [[nodiscard]] const std::string& Path() const { return Root; }
+    [[nodiscard]] std::string Path(const std::string& name) const { return Root + "/" + name; }
 
     // NOLINTNEXTLINE(modernize-use-nodiscard): often for the file alone
     std::string Put(const std::string& name, std::string_view content, bool executable = false) const {
@@ -40,9 +33,7 @@ class TemporaryFolder {
         std::ifstream file(Path(name), std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
-
-  private:
-    std::string path_;
+    std::string Root;
 };
 
 } // namespace orvane::fakes

@@ -5,9 +5,6 @@
 #include "output/shown_file.h"
 #include "output/text_file.h"
 
-#include <new>
-#include <stdexcept>
-
 namespace orvane {
 namespace {
 
@@ -74,7 +71,7 @@ struct ShownText : TextBox {
 TEST(ShownFile, ShowsWhatItCanReadOfAFileAndDeletesItQuietly) {
     const std::string chunk = std::string(ShownFile::LongestLine - 2, 'x') + "\r\n";
     std::string lines;
-    for (std::size_t line = 0; line < ShownFile::MostLines; ++line)
+    while (lines.size() < 2 * ShownFile::MostLines)
         lines += "\r\n";
     std::string largest;
     while (largest.size() < ShownFile::LargestFile)
@@ -111,12 +108,10 @@ TEST(ShownFile, ShowsWhatItCanReadOfAFileAndDeletesItQuietly) {
 }
 
 TEST(WithFailurePath, CleansUpThenReportsAnyExceptionOnce) {
-    const auto cancel = [] {
-        throw Failure("Cancel was selected.", failure_number::Cancelled, "CommonDialog");
-    };
+    const auto cancel = [] { throw Failure("Cancel", failure_number::Cancelled, "a prompt"); };
     const std::vector<std::tuple<std::function<void()>, bool, std::string>> table = {
         {cancel, true, ""},
-        {cancel, false, Report("Cancel was selected.", 32755, "CommonDialog")},
+        {cancel, false, Report("Cancel", 32755, "a prompt")},
         {[] { throw Failure("", -7, ""); }, true, Report("", -7, "")},
         {[] { throw std::bad_alloc(); }, false, Report("Out of memory", 20010, "memory")},
         {[] { throw std::logic_error("odd"); }, true, Report("odd", 20099, "the program")},
@@ -131,27 +126,9 @@ TEST(WithFailurePath, CleansUpThenReportsAnyExceptionOnce) {
     }
 }
 
-TEST(OpenInBrowser, SaysWhatWentWrong) {
-    const std::string path = "/a b/ list's.htm";
-    for (const auto& [found, starts, message] :
-         {std::tuple{33, 33, ""},
-          {32, 33, "(!) Browser Not Found: Could not find associated Browser"},
-          {33, 32, "(!) URL Failed: Web Page not Opened"}}) {
-        FakeDesktop desktop;
-        desktop.shell.Found = found;
-        desktop.shell.Starts = starts;
-        OpenInBrowser(path, 5, desktop.shell, desktop.messages);
-        EXPECT_EQ(desktop.messages.Take(), message);
-        EXPECT_EQ(desktop.shell.Started, found == 33 ? Texts{"viewer " + path} : Texts{});
-        EXPECT_EQ(desktop.shell.LastOwner, found == 33 ? 5 : 0);
-    }
-}
-
 TEST(CopyTextToClipboard, GoesDownTheLadder) {
     const std::string filled = "66*359 GlobalAlloc GlobalLock GlobalUnlock ";
     const std::string given = filled + "OpenClipboard EmptyClipboard 1 SetClipboardData CloseClipboard ";
-    const std::string notUnlocked = filled + "CloseClipboard GlobalFree ";
-    const std::string noUnlock = "Could not unlock memory location. Copy aborted.";
     const std::string noClose = "Could not close Clipboard.";
     const std::vector<std::tuple<std::set<std::string, std::less<>>, std::string, Texts>> table = {
         {{}, given, {BoardSuccess}},
@@ -162,8 +139,9 @@ TEST(CopyTextToClipboard, GoesDownTheLadder) {
         {{"GlobalLock"},
          "66*359 GlobalAlloc GlobalLock GlobalFree ",
          {Report("The memory block for the clipboard cannot be locked", 20010, "GlobalLock")}},
-        {{"GlobalUnlock"}, notUnlocked, {noUnlock}},
-        {{"GlobalUnlock", "CloseClipboard"}, notUnlocked, {noUnlock, noClose}},
+        {{"GlobalUnlock", "CloseClipboard"},
+         filled + "CloseClipboard GlobalFree ",
+         {"Could not unlock memory location. Copy aborted.", noClose}},
         {{"OpenClipboard"},
          filled + "OpenClipboard GlobalFree ",
          {"Could not open the Clipboard. Copy aborted."}},
@@ -178,10 +156,6 @@ TEST(CopyTextToClipboard, GoesDownTheLadder) {
         EXPECT_EQ(desk.desktop.messages.TakeAll(), messages);
         EXPECT_EQ(desk.desktop.board.Calls, calls);
     }
-    FakeDesktop desktop;
-    const std::string cutShort("a\0b", 3);
-    EXPECT_THROW(CopyTextToClipboard(cutShort, desktop.board, WesternPage(), desktop.messages), Failure);
-    EXPECT_EQ(desktop.board.Calls, "");
 }
 
 } // namespace

@@ -5,8 +5,6 @@
 #include "output/glb_util.h"
 #include "output/output_channels.h"
 
-#include <tuple>
-
 namespace orvane {
 
 using namespace fakes;
@@ -14,19 +12,11 @@ using namespace fakes;
 /// The output window without its controls.
 struct ShownWindow : OutputWindow {
     explicit ShownWindow(MemoryFiles& files) : Files(files) {}
-    void OutputFileName(const std::string& strOutputFileName, bool temporary) override {
-        Path = strOutputFileName;
-        Temporary = temporary;
-    }
-    void ShowModal() override {
-        ++Shows;
-        Text = Files.Contents[Path];
-    }
+    void OutputFileName(const std::string& path, bool temporary) override { Name = {path, temporary}; }
+    void ShowModal() override { Shown.push_back(Files.Contents[Name.first]); }
     MemoryFiles& Files;
-    std::string Path;
-    bool Temporary = false;
-    std::string Text;
-    int Shows = 0;
+    std::pair<std::string, bool> Name; ///< whether it is temporary
+    Texts Shown;                       ///< the text of each show
 };
 
 /// The main window and the options window without their controls.
@@ -42,8 +32,8 @@ struct ListDesk : OptionsWindow, SampleSizeBox {
     }
     /// Fixes the blocks, as a press of "OK" does.
     void ShowModal() override {
-        results.BlockSizes = {0};
-        results.BlockSizes.insert(results.BlockSizes.end(), Blocks.begin(), Blocks.end());
+        results.BlockSizes = Blocks;
+        results.BlockSizes.insert(results.BlockSizes.begin(), 0);
     }
     [[nodiscard]] std::string Text() const override { return ""; }
     void SetFocus() override {}
@@ -70,7 +60,7 @@ struct ListDesk : OptionsWindow, SampleSizeBox {
     }
     std::string ToTheWindow() {
         Generate(ToWindow);
-        return window.Text;
+        return window.Shown.empty() ? "not shown" : window.Shown.back();
     }
     std::string ToTheBoard() {
         Generate(ToClipboard);

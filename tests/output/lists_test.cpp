@@ -12,29 +12,37 @@ std::string Blanks(std::size_t count) {
     return std::string().append(count, ' ');
 }
 
-struct Example : testing::Test {
-    Example() {
+TEST(Lists, StandInFilesTheWindowAndOnTheClipboard) {
+    ListDesk desk;
+    auto& [messages, pointer, files, clock, random, shell, board, keys, platform] = desk.desktop;
+    const auto shuffle = [&] {
         desk.Exchange(6, {3, 4, 5, 6}); // leaves 1, 2, 2, 1, 2, 1
         desk.Exchange(4, {1, 2});       // leaves 2, 1, 1, 2
-    }
-    void ExpectViewerOf(const std::string& path) const {
-        EXPECT_EQ(desk.desktop.shell.Started, Texts{"viewer " + path});
-        EXPECT_EQ(desk.desktop.shell.LastOwner, 77);
-        EXPECT_EQ(desk.desktop.files.Open, 0);
-    }
-    ListDesk desk;
+    };
     const std::string rows = "001: Group 1        003: Group 2        005: Group 2\r\n"
                              "002: Group 2        004: Group 1        006: Group 1\r\n";
     const std::string row3 = "007: Group 2        009: Group 1        ";
     const std::string row4 = "008: Group 1        010: Group 2        ";
-};
+    for (const int index : {35, 0, 34, 20, 1, 9, 10, 35, 0, 0, 0, 0, 0, 0, 0, 0})
+        random.Values.insert(random.Values.begin(), UniformFor(0, 35, index));
+    shuffle();
+    files.Contents["/program/00000000.tmp"] = "another program's"; // so a second name is drawn
+    EXPECT_EQ(desk.ToTheWindow(), rows + Rule(39) + row3 + "   \r\n" + row4 + "   \r\n" + Rule(39));
+    EXPECT_EQ(random.ReseededAt, (std::vector<std::size_t>{16, 16 + 720})) << "once a block";
+    EXPECT_EQ(files.Log, Texts{"CreatePrivate /program/ZA91KY0Z.tmp"});
+    EXPECT_TRUE(desk.window.Name.second);
 
-TEST_F(Example, AsTextFile) {
+    shuffle();
+    EXPECT_EQ(desk.ToTheBoard(), "001: Group 1        003: Group 2        005: Group 2        \r\n"
+                                 "002: Group 2        004: Group 1        006: Group 1        \r\n" +
+                                     Rule(55) + row3 + Blanks(18) + "\r\n" + row4 + Blanks(18) + "\r\n" +
+                                     Rule(55));
+    EXPECT_EQ(messages.Take(), BoardSuccess);
+
+    shuffle();
     EXPECT_EQ(desk.ToTheFile("/lists/a.txt"), rows + Rule(55) + row3 + " \r\n" + row4 + " \r\n" + Rule(55));
-    ExpectViewerOf("/lists/a.txt");
-}
 
-TEST_F(Example, AsWebPage) {
+    shuffle();
     const std::string head = "<table border='0' cellspacing='1' width='100%' nowrap=1><tr>\r\n";
     EXPECT_EQ(
         desk.ToTheFile("/lists/a.htm"),
@@ -48,27 +56,9 @@ TEST_F(Example, AsWebPage) {
             "</tr><tr>\r\n"
             "<td>008: <b>Group 1</b></td>\r\n<td>010: <b>Group 2</b></td>\r\n<td>&nbsp;</td>\r\n"
             "</tr></table>\r\n<hr>\r\n</body></html>\r\n");
-    ExpectViewerOf("/lists/a.htm");
-}
-
-TEST_F(Example, InTheWindow) {
-    auto& values = desk.desktop.random.Values;
-    for (const int index : {35, 0, 34, 20, 1, 9, 10, 35, 0, 0, 0, 0, 0, 0, 0, 0})
-        values.insert(values.begin(), UniformFor(0, 35, index));
-    auto& files = desk.desktop.files;
-    files.Contents["/program/00000000.tmp"] = "another program's"; // so a second name is drawn
-    EXPECT_EQ(desk.ToTheWindow(), rows + Rule(39) + row3 + "   \r\n" + row4 + "   \r\n" + Rule(39));
-    EXPECT_EQ(desk.desktop.random.ReseededAt, (std::vector<std::size_t>{16, 16 + 720})) << "once a block";
-    EXPECT_EQ(files.Log, Texts{"CreatePrivate /program/ZA91KY0Z.tmp"});
-    EXPECT_TRUE(desk.window.Temporary);
-}
-
-TEST_F(Example, OnTheClipboard) {
-    EXPECT_EQ(desk.ToTheBoard(), "001: Group 1        003: Group 2        005: Group 2        \r\n"
-                                 "002: Group 2        004: Group 1        006: Group 1        \r\n" +
-                                     Rule(55) + row3 + Blanks(18) + "\r\n" + row4 + Blanks(18) + "\r\n" +
-                                     Rule(55));
-    EXPECT_EQ(desk.desktop.messages.Take(), BoardSuccess);
+    EXPECT_EQ(shell.Started, (Texts{"viewer /lists/a.txt", "viewer /lists/a.htm"}));
+    EXPECT_EQ(shell.LastOwner, 77);
+    EXPECT_EQ(files.Open, 0);
 }
 
 TEST(Generation, TellsThePValuesOfTheBlocksThatWereTested) {
@@ -108,9 +98,12 @@ TEST(ClipboardReport, RefusesACellWiderThanItsColumn) {
         "\"0000000001: Group 1\" has 19 characters, and a column on the clipboard has 18: choose fewer "
         "columns, a shorter code or shorter group names",
         20003, "OutputToClipBoard");
+    const std::string cutShort =
+        Report("The clipboard cannot hold the character U+0000", 20007, "CopyTextToClipboard");
     for (const auto& [columns, name, message, text] :
-         {std::tuple(7, "äöüäöüäö", BoardSuccess, ": \xE4\xF6\xFC\xE4\xF6\xFC\xE4\xF6"),
-          {8, "Group 1", refused, "ntent"}}) {
+         {std::tuple(7, std::string("äöüäöüäö"), BoardSuccess, ": \xE4\xF6\xFC\xE4\xF6\xFC\xE4\xF6"),
+          {8, "Group 1", refused, "ntent"},
+          {7, std::string(1, '\0'), cutShort, "ntent"}}) {
         ListDesk desk(columns, {name, "B"}, {2, 2}, 10);
         EXPECT_EQ(desk.ToTheBoard().substr(10, 10), text);
         EXPECT_EQ(desk.desktop.messages.Take(), message);
@@ -141,7 +134,7 @@ std::string LeftBehind(const Channel& report, ListDesk& desk, const std::string&
     const std::string message = desk.desktop.messages.Take();
     EXPECT_NE(message.find(error), std::string::npos) << message;
     EXPECT_EQ(desk.desktop.shell.Started, Texts{});
-    EXPECT_EQ(desk.window.Shows, 0);
+    EXPECT_EQ(desk.window.Shown, Texts{});
     EXPECT_EQ(desk.desktop.files.Open, 0);
     EXPECT_EQ(desk.desktop.board.Content, "earlier content");
     EXPECT_EQ(desk.desktop.pointer.Calls.back(), 'N');
@@ -197,7 +190,7 @@ TEST(WindowReport, FailsOutsideOfItsFailurePathWhenItHasNoName) {
     ListDesk broken;
     broken.desktop.random.Fails = {"UniformNext"};
     EXPECT_EQ(FailureOf([&] { broken.ToTheWindow(); }).Number, 5);
-    EXPECT_EQ(taken.window.Shows + broken.window.Shows, 0);
+    EXPECT_EQ(taken.window.Shown.size() + broken.window.Shown.size(), 0U);
 }
 
 const std::string ListFilter = "|htm file (*.htm)|*.htm|Text file (*.txt)|*.txt";
@@ -253,14 +246,18 @@ TEST_F(Prompts, JudgeTheLastThreeCharacters) {
 }
 
 TEST(DisplayRandomFile, ShowsWebPagesInTheBrowserAndAllElseInTheWindow) {
-    const std::vector<std::pair<std::optional<std::string>, std::string>> table = {
-        {"/x/list.HTM", "viewer /x/list.HTM77"},
-        {"/x/list.html", "/x/list.html1"},
-        {std::nullopt, ""},
-        {"fails", Report("cannot open ", 5, "a fake")},
+    const std::vector<std::tuple<std::optional<std::string>, int, int, std::string>> table = {
+        {"/x/list.HTM", 33, 33, "viewer /x/list.HTM77"},
+        {"/x/list.HTM", 32, 33, "(!) Browser Not Found: Could not find associated Browser"},
+        {"/x/list.HTM", 33, 32, "(!) URL Failed: Web Page not Openedviewer /x/list.HTM77"},
+        {"/x/list.html", 33, 33, "/x/list.html1"},
+        {std::nullopt, 33, 33, ""},
+        {"fails", 33, 33, Report("cannot open ", 5, "a fake")},
     };
-    for (const auto& [answer, outcome] : table) {
+    for (const auto& [answer, found, starts, outcome] : table) {
         ListDesk desk;
+        desk.desktop.shell.Found = found;
+        desk.desktop.shell.Starts = starts;
         desk.dialog.FileName = "the last use's";
         desk.dialog.Answers = {answer};
         if (answer == "fails")
@@ -269,8 +266,8 @@ TEST(DisplayRandomFile, ShowsWebPagesInTheBrowserAndAllElseInTheWindow) {
         std::string seen = desk.desktop.messages.Take();
         for (const std::string& started : desk.desktop.shell.Started)
             seen += started + std::to_string(desk.desktop.shell.LastOwner);
-        EXPECT_EQ(seen + (desk.window.Shows == 1 ? desk.window.Path + "1" : ""), outcome);
-        EXPECT_FALSE(desk.window.Temporary);
+        EXPECT_EQ(seen + (desk.window.Shown.size() == 1 ? desk.window.Name.first + "1" : ""), outcome);
+        EXPECT_FALSE(desk.window.Name.second);
         EXPECT_EQ(desk.dialog.Shown, Texts{"open 0, the last use's|Select the random file" + ListFilter});
     }
 }
