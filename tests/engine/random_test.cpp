@@ -39,8 +39,9 @@ TEST(ChaCha, TwentyRoundsGiveThePublishedBlocks) {
 // The expected values come from an implementation of the cipher of its own, apart from this program.
 TEST(RandomSource, TheStreamIsThatOfItsKeyAndReseeds) {
     // 24 bits of the value at each index
-    const auto expectBits = [](const std::vector<float>& values, const std::vector<std::size_t>& indices,
-                               const std::vector<std::uint32_t>& bits) {
+    using Indices = std::vector<std::uint32_t>;
+    const auto expectBits = [](const std::vector<float>& values, const Indices& indices,
+                               const Indices& bits) {
         for (std::size_t k = 0; k < bits.size(); ++k)
             EXPECT_EQ(static_cast<std::uint32_t>(values.at(indices.at(k)) * 0x1p24F), bits[k]) << indices[k];
     };
@@ -78,19 +79,16 @@ TEST(RandomSource, WithoutEntropyTheFirstUseFailsAndTheNextAsksAgain) {
 
 TEST(RandomSource, AReseedOverwritesTheValuesThatWerePrepared) {
     SetEntropy entropy;
+    SetEntropy sameEntropy;
     RandomSource source(entropy);
     source.UniformNext();
-    const auto memory = std::as_bytes(std::span(&source, 1));
-    SetEntropy sameEntropy;
     std::vector<float> values(BatchValues);
     RandomSource(sameEntropy).UniformFill(values);
     const auto prepared = std::as_bytes(std::span(values).subspan(100, 2));
-    const auto found = [&] {
-        return std::search(memory.begin(), memory.end(), prepared.begin(), prepared.end()) != memory.end();
-    };
-    EXPECT_TRUE(found());
+    const auto memory = std::as_bytes(std::span(&source, 1));
+    EXPECT_FALSE(std::ranges::search(memory, prepared).empty());
     source.UniformReseed(1);
-    EXPECT_FALSE(found());
+    EXPECT_TRUE(std::ranges::search(memory, prepared).empty());
 }
 
 TEST(RandomDraws, RoundToNearestAndTiesToEven) {
@@ -139,11 +137,11 @@ using Groups = std::vector<std::uint8_t>;
 
 TEST(BlockShuffle, ExchangesTheFirstDrawWithTheSecond) {
     // Of three positions, 0 draws the first, 0.5 the second, 0.9 the third. All later draws are position 1.
-    const std::vector<std::pair<std::vector<float>, Groups>> rows = {{{0, 0.9F}, {3, 2, 1}},
-                                                                     {{0, 0.5F, 0.5F, 0.9F}, {2, 3, 1}},
-                                                                     {{0.5F, 0.9F, 0, 0.5F}, {3, 1, 2}},
-                                                                     {{0.5F, 0.5F}, {1, 2, 3}}};
-    for (const auto& [values, shuffled] : rows) {
+    for (const auto& [values, shuffled] :
+         std::vector<std::pair<std::vector<float>, Groups>>{{{0, 0.9F}, {3, 2, 1}},
+                                                            {{0, 0.5F, 0.5F, 0.9F}, {2, 3, 1}},
+                                                            {{0.5F, 0.9F, 0, 0.5F}, {3, 1, 2}},
+                                                            {{0.5F, 0.5F}, {1, 2, 3}}}) {
         ListedSource source(values);
         Groups groups{1, 2, 3};
         ShuffleBlock(source, groups);

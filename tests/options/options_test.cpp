@@ -232,9 +232,8 @@ TEST(OptionValidation, AFailureOfTheRandomSourceIsAFaultOfTheListAndComesOutOfRa
 
 TEST(OptionProperties, LevelIsTheNearestFloat) {
     constexpr float most = std::numeric_limits<float>::max();
-    const std::vector<std::pair<const char*, float>> rows = {
-        {"0.05", 0.05F}, {"1E39", most}, {"-1E999", -most}, {"1E-60", 0}, {"abc", 0}};
-    for (const auto& [text, level] : rows)
+    for (const auto& [text, level] : std::vector<std::pair<std::string, float>>{
+             {"0.05", 0.05F}, {"1E39", most}, {"-1E999", -most}, {"1E-60", 0}, {"abc", 0}})
         EXPECT_EQ(LevelOf(text), level) << text;
 }
 
