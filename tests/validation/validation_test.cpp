@@ -8,11 +8,10 @@
 
 namespace {
 
-namespace fs = std::filesystem;
 using Json = nlohmann::json;
 
 TEST(Validation, PassesInItsQuickFormAndSaysSoToOtherPrograms) {
-    const fs::path folder = RECORD_FOLDER;
+    const std::filesystem::path folder = RECORD_FOLDER;
     const std::string command =
         std::string("'" ON_DISPLAY "' '" VALIDATION "' '" APP "' '") + folder.string() + "' --quick";
     EXPECT_EQ(std::system(command.c_str()), 0); // NOLINT(cert-env33-c): paths of the build, quoted
