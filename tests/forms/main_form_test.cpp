@@ -37,6 +37,7 @@ struct MainWindow : MainFormTest {
 TEST_F(MainWindow, StartsWithoutSettingsAfterOneReport) {
     Open();
     EXPECT_EQ(Message() + Marks(), "reportx--");
+    EXPECT_EQ(Wordings(*form), Told("main_form.txt"));
     EXPECT_EQ(TabStops(*form), "nogHsb SampSizeTxt GroupNameGrid TempTxt SaveExitChk cmdGenerate");
     EXPECT_EQ(dialog.Flags, CommonDialog::OverwritePrompt);
     EXPECT_EQ(outputDialog.DialogTitle, "Save to File As...");

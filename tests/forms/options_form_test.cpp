@@ -89,6 +89,7 @@ TEST_F(Options, OpenOnTheFirstTabUnderTheNormalPointer) {
     desktop.pointer.ShowBusy();
     Open([&](QDialog& window) {
         EXPECT_FALSE(desktop.pointer.Busy);
+        EXPECT_EQ(Wordings(window), Told("options_form.txt"));
         EXPECT_EQ(settings.SigLevel, 0.05F) << "as shown";
         const auto& tabs = Find<QTabBar>(window, "tbsOptions");
         EXPECT_EQ(tabs.tabText(3) + tabs.tabToolTip(0), "StatisticsSet Options for blocks");

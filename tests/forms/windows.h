@@ -12,12 +12,12 @@
 #include <QDialog>
 #include <QLabel>
 #include <QMenu>
-#include <QScreen>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
 
+#include <fstream>
 #include <tuple>
 
 namespace orvane {
@@ -31,6 +31,37 @@ Control& Find(QObject& window, const std::string& name) {
     if (found == nullptr)
         qFatal("no control %s", name.c_str());
     return *found;
+}
+
+/// The texts of all controls, "name: text|tool tip|name for assistive programs". Each has room for its text.
+inline std::string Wordings(QWidget& window) {
+    QStringList all(window.windowTitle() + (window.isModal() ? ", modal" : ""));
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        const QVariant title = control->property("title");
+        QString text = (title.isValid() ? title : control->property("text")).toString();
+        if (const auto* label = qobject_cast<QLabel*>(control)) {
+            EXPECT_LE(label->heightForWidth(label->width()), label->height()) << text.toStdString();
+        }
+        if (const auto* menu = qobject_cast<QMenu*>(control))
+            for (const QAction* item : menu->actions())
+                text += ", " + (item->isSeparator() ? "-" : item->text()) +
+                        (item->isEnabled() ? "" : " (off)") + (item->isChecked() ? " (x)" : "");
+        if (const auto* tabs = qobject_cast<QTabBar*>(control))
+            for (int tab = 0; tab < tabs->count(); ++tab)
+                text += tabs->tabText(tab) + " (" + tabs->tabToolTip(tab) + ") ";
+        const QString names = control->toolTip() + "|" + control->accessibleName();
+        const bool ownedByToolkit =
+            control->objectName().startsWith("qt_") || qobject_cast<QTabBar*>(control->parent()) != nullptr;
+        if (!ownedByToolkit && (text + names).size() > 1)
+            all += control->objectName() + ": " + text + "|" + names;
+    }
+    return all.join("; ").simplified().toStdString();
+}
+
+/// The content of a file of this folder, which tells all wordings of a window in lines of any length.
+inline std::string Told(const std::string& file) {
+    std::ifstream text(WINDOWS "/" + file);
+    return QString::fromStdString({std::istreambuf_iterator<char>(text), {}}).simplified().toStdString();
 }
 
 inline std::string Focused(const QWidget& window) {
