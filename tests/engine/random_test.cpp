@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
+#include <sstream>
 #include <tuple>
 
 namespace orvane {
@@ -92,16 +93,15 @@ TEST(RandomSource, AReseedOverwritesTheValuesThatWerePrepared) {
 }
 
 TEST(RandomDraws, RoundToNearestAndTiesToEven) {
-    constexpr float Most = 0x1.fffffep-1F;
-    const std::vector<std::tuple<int, int, float, int>> rows = {
-        {1, 4, 0, 1},           {1, 4, 0.1F, 1}, {1, 4, 0.25F, 2},        {1, 4, Most, 4},
-        {1, 1, 0.7F, 1},        {0, 1, 0.5F, 0}, {0, 3, 0.5F, 2},         {0, 1, 0.50001F, 1},
-        {-3, 3, 0.25F, -1},     {5, 2, 0.5F, 3}, {0, 32767, Most, 32767}, {-32768, -1, Most, -1},
-        {0, 32767, 0.5F, 16384}};
-    for (const auto& [Lo, Hi, U, drawn] : rows) {
+    std::istringstream rows(
+        "1 4 0 1  1 4 0.1 1  1 4 0.25 2  1 4 0.99999994 4  1 1 0.7 1  0 1 0.5 0  0 3 0.5 2 "
+        "0 1 0.50001 1  -3 3 0.25 -1  5 2 0.5 3  0 32767 0.99999994 32767  -32768 -1 0.99999994 -1  0 32767 "
+        "0.5 16384");
+    std::tuple<std::int16_t, std::int16_t, float, int> row;
+    auto& [Lo, Hi, U, drawn] = row;
+    while (rows >> Lo >> Hi >> U >> drawn) {
         ListedSource source({U});
-        EXPECT_EQ(DrawRandomInt(source, static_cast<std::int16_t>(Lo), static_cast<std::int16_t>(Hi)), drawn)
-            << Lo << " " << Hi << " " << U;
+        EXPECT_EQ(DrawRandomInt(source, Lo, Hi), drawn) << Lo << " " << Hi << " " << U;
         EXPECT_EQ(source.Consumed, 1U);
     }
     ListedSource source;
