@@ -104,6 +104,7 @@ TEST(RandomDraws, RoundToNearestAndTiesToEven) {
         EXPECT_EQ(DrawRandomInt(source, Lo, Hi), drawn) << Lo << " " << Hi << " " << U;
         EXPECT_EQ(source.Consumed, 1U);
     }
+    EXPECT_TRUE(rows.eof()); // every row was read
     ListedSource source;
     EXPECT_EQ(FailureOf([&] { DrawRandomInt(source, -1, 32767); }).Number, failure_number::Overflow);
     EXPECT_EQ(FailureOf([&] { DrawRandomInt(source, 32767, -2); }).Number, failure_number::Overflow);

@@ -178,7 +178,6 @@ class MainFormTest : public WindowTest {
     }
 
     const std::string SavedPath = "/program/saved.stg";
-    const std::string Copied = "Data were copied into clipboard successfuly!";
     const std::string Loaded = "Settings were loaded successfully!";
     std::unique_ptr<MainForm> form;
 };

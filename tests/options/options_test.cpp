@@ -198,6 +198,7 @@ TEST(OptionValidation, RefusesListsThatCannotBeMade) {
                                                        {"runs", {runs(named, level)}}};
         bench.Expect(messages.at(kind), "");
     }
+    EXPECT_TRUE(rows.eof()); // every row was read
     bench.Set(3, 20);
     bench.grid.Names = {"a", "a", "a"};
     bench.Option(OnlyOneBlock);

@@ -1,32 +1,14 @@
 // The parts of the desktop that the toolkit provides.
 #include "fakes/desktop.h"
 #include "fakes/qt_application.h"
-#include "platform/qt/qt_clipboard.h"
 #include "platform/qt/qt_common_dialog.h"
 #include "platform/qt/qt_message_box.h"
 
 #include <QTest>
 #include <QtWidgets>
 
-#include <limits>
-
 namespace orvane {
 namespace {
-
-TEST(QtClipboard, PutsTheCharactersOfABlockOnTheClipboardAndKeepsToItsBlocks) {
-    TestApplication();
-    QtClipboard board(fakes::WesternPage());
-    const GlobalHandle block = board.GlobalAlloc(66, 13);
-    board.lstrcpy(board.GlobalLock(block), "Gr\xF6\xDF"
-                                           "e \x80\r\n==\r\nlonger than the block");
-    EXPECT_EQ(board.GlobalAlloc(66, std::numeric_limits<std::size_t>::max()), 0U);
-    EXPECT_EQ(board.SetClipboardData(1, block), 0U); // not open
-    EXPECT_NE(board.OpenClipboard(), 0);
-    EXPECT_EQ(board.SetClipboardData(1, block), block);
-    EXPECT_NE(board.CloseClipboard(), 0);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), "Größe €\r\n==\r");
-    EXPECT_EQ(board.GlobalLock(block), nullptr);
-}
 
 class QtWindowsTest : public testing::Test {
   protected:
@@ -135,18 +117,6 @@ TEST_F(QtWindowsTest, CancelLeavesTheNameAndAPromptStartsWhereTheLastEnded) {
         EXPECT_EQ(fakes::FailureOf([&] { prompt.ShowSave(); }).Number, failure_number::Cancelled);
         EXPECT_EQ(prompt.FileName, offered);
     }
-}
-
-TEST_F(QtWindowsTest, TheEndOfTheProgramClosesWhatIsOpen) {
-    QWidget window;
-    window.show();
-    testing::internal::CaptureStderr();
-    InNext<QMessageBox>([&](QMessageBox&) { ending.Begin(); });
-    messages.Show("open");
-    messages.Show("later");
-    EXPECT_TRUE(testing::internal::GetCapturedStderr().ends_with("Orvane Software: later\n"));
-    EXPECT_EQ(fakes::FailureOf([&] { prompt.ShowOpen(); }).Number, failure_number::Cancelled);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isVisible(); }));
 }
 
 TEST_F(QtWindowsTest, AMessageShowsPlainTextAndKeepsLongTextsOnTheScreen) {
