@@ -73,6 +73,7 @@ MainForm::MainForm(Platform& desktop, CommonDialog& CMDialog, CommonDialog& outp
       ui_(std::make_unique<Ui::Form1>()) {
     UseFormFont(*this);
     ui_->setupUi(this);
+    // NOLINTNEXTLINE(modernize-make-unique): an aggregate takes braces
     parts_.reset(new Parts{*ui_, guard_, desktop, CMDialog, outputDialog});
     LayOut();
     ConnectControls();

@@ -15,9 +15,9 @@ constexpr std::size_t BufferSize = 1024;
 /// The upper-case hexadecimal digits of each byte from the last to the first, none with a leading zero.
 std::string HexDigitsBackwards(const std::string& bytes) {
     std::string text;
-    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte) {
+    for (const char byte : std::string(bytes.rbegin(), bytes.rend())) {
         std::array<char, 2> digits{};
-        const int code = static_cast<unsigned char>(*byte);
+        const int code = static_cast<unsigned char>(byte);
         text.append(digits.data(), std::to_chars(digits.begin(), digits.end(), code, 16).ptr);
     }
     return text;
