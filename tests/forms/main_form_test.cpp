@@ -239,6 +239,20 @@ TEST_F(MainWindow, TheOutputMenuMarksTheChannel) {
     EXPECT_TRUE(dialog.Shown.back().starts_with("open 2, |Select the random file|htm file"));
 }
 
+TEST_F(MainWindow, AClosingDuringWorkWaitsForItsEndAndNeedsNoSettingsFile) {
+    Open(Small);
+    bool working = true;
+    desktop.messages.WhileShown = [&] { EXPECT_NE(form->close(), std::exchange(working, false)); };
+    desktop.files.Fails = {"Delete", "OpenForOutput"};
+    TypeSampleSize("");
+    Click(*form, "cmdGenerate");
+    const Texts shown = desktop.messages.TakeAll();
+    ASSERT_EQ(shown.size(), 2);
+    EXPECT_EQ(shown[0], "please specify the sample size");
+    EXPECT_TRUE(shown[1].starts_with("Error Description: "));
+    EXPECT_FALSE(form->isVisible());
+}
+
 TEST_F(MainWindow, HelpOpensThePageAndTheAboutBox) {
     Open(Small);
     Choose("mnuHelp_0");

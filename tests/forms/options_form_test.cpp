@@ -134,6 +134,27 @@ TEST_F(Options, CodeLengthIsRaisedToItsLimitAndNeverLowered) {
     }
 }
 
+TEST_F(Options, LoadedValuesOutOfRangeAreShownAsTheNearest) {
+    settings.CodeAlphaNum = 9;
+    settings.CodeSeqRandom = -1;
+    settings.prBlockOption = 17;
+    settings.CodeLength = 300;
+    settings.SigLevel = std::nextafter(0.05F, 1.0F);
+    for (const auto& [columns, spacing, bars, after] :
+         {std::tuple(99, -5, "10 10 0", "10-5"), {0, 6, "10 1 5", "16"}}) {
+        settings.Columns = static_cast<std::int16_t>(columns);
+        settings.CellSpacing = static_cast<std::int16_t>(spacing);
+        Open([&, bars = bars](QDialog& window) {
+            for (const char* option : {"AlphaNumOpt_2", "SeqRandOpt_0", "BlkOpt_3"})
+                EXPECT_TRUE(Checked(window, option)) << option;
+            EXPECT_EQ(Bars(window), bars);
+            EXPECT_EQ(Text(window, "txtLevel"), "0.05");
+        });
+        EXPECT_EQ(Values(), "17   9-1 300 0 0.05|"s + after + "0");
+        EXPECT_EQ(settings.SigLevel, 0.05F) << "as shown";
+    }
+}
+
 TEST_F(Options, CancelEscAndTheFrameGoBackToTheSnapshot) {
     for (const auto& leave : std::vector<std::function<void(QDialog&)>>{
              [](QDialog& window) { Click(window, "cmdCancel"); }, [](QDialog&) { Press(Qt::Key_Escape); },

@@ -57,16 +57,21 @@ TEST_F(ListWindow, ShowsTheFileAndDeletesItAtTheCloseIfItIsTemporary) {
 }
 
 TEST_F(ListWindow, SaveCopiesTheFileAndNotWhatWasTyped) {
-    dialog.Answers = {"/home/a.txt"};
+    dialog.Answers = {"/home/a.htm", "/home/a.txt", std::nullopt};
     Open([&](QDialog& window) {
         Type("typed");
         Click(window, "SaveCmd");
-        dialog.Fails = {"save "};
+        EXPECT_EQ(Message(), "Only text files allowed!");
+        Click(window, "SaveCmd"); // cancelled, and nobody is told
+        desktop.files.Fails = {"Copy"};
+        dialog.Answers = {"/home/c.txt"};
         Click(window, "SaveCmd");
         EXPECT_EQ(Message(), "report");
+        EXPECT_TRUE(window.isVisible());
         window.close();
     });
     EXPECT_EQ(desktop.files.Contents, (std::map<std::string, std::string>{{"/home/a.txt", list}}));
+    EXPECT_EQ(dialog.Shown, Texts(4, "save 2, output|Save to File As...|Text file (*.txt)|*.txt"));
 }
 
 TEST_F(ListWindow, KeysOfTheText) {
