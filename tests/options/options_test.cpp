@@ -113,6 +113,7 @@ TEST(BlockSizeList, BlocksGoOnUntilTheyReachTheSampleSize) {
         {RandomSizesOf, "16-12,4", 2, 6, {}, {4, 4}},
         {RandomSizesOf, "4 ,6-9,8", 1, 15, {slot(6, 6), slot(5, 6)}, {8, 9}},
         {RandomSizesOf, "006", 3, 12, {}, {6, 6}}, // an exact fit ends the drawing
+        {RandomSizesOf, "1 2", 2, 12, {}, {12}},   // digits join across a blank
         {RandomSizesOf, std::string(32765, ' ') + "6", 2, 5, {}, {6}},
         // The ends of the list come up half as often; a size written twice counts twice.
         {RandomSizesOf, "4,6,8", 2, 48, even, {4, 4, 6, 6, 6, 6, 8, 8}},
