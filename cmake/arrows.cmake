@@ -2,6 +2,7 @@
 #
 #   forms > settings > output > options > engine > platform (interfaces)
 #   only forms/main.cpp includes platform/qt and platform/linux; these include the interfaces only
+#   tools includes nothing of the program, and validation only tools/driving
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -45,6 +46,19 @@ foreach(folder IN LISTS everywhere)
     else()
       check(${folder} "${file}" ${sees})
     endif()
+  endforeach()
+endforeach()
+
+# What drives or examines the program must not share code with it.
+foreach(folder tools validation)
+  file(GLOB_RECURSE files "${SOURCE}/${folder}/*.cpp" "${SOURCE}/${folder}/*.h")
+  foreach(file IN LISTS files)
+    file(STRINGS "${file}" lines REGEX "^#include \"")
+    foreach(line IN LISTS lines)
+      if(NOT line MATCHES "^#include \"(${folder}|tools/driving)/")
+        list(APPEND faults "${file}: ${line}")
+      endif()
+    endforeach()
   endforeach()
 endforeach()
 

@@ -1,134 +1,107 @@
 #include "validation/identity.h"
 
-#include "platform/application.h"
-#include "validation/libraries.h"
-#include "validation/output_folder.h"
-
-#include <glib.h>
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QFile>
+#include <QSysInfo>
 
 #include <algorithm>
 #include <fstream>
-#include <memory>
+#include <set>
 #include <stdexcept>
-#include <thread>
-
-#include <sys/utsname.h>
 
 namespace orvane::validation {
+
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* ProgramFile = "orvane";
+/// The version that the About box shows.
+std::string ShownVersion(Session& session) {
+    const std::string word = "Version ";
+    driving::User& user = session.Person();
+    user.Choose({"Help", "About..."});
+    const driving::Window about = session.Display().Await("About Orvane Software");
+    std::string version;
+    user.AwaitControl(about.Title, "a version", [&](const driving::Control& control) {
+        if (control.Role == "label" && control.Name.starts_with(word))
+            version = control.Name.substr(word.size());
+        return !version.empty();
+    });
+    session.Display().Press({"Escape"});
+    session.Display().AwaitGone(about);
+    return version;
+}
 
-/// The value after `key` and `separator` in the first line that starts with the key.
-std::string ValueIn(const fs::path& file, const std::string& key, char separator) {
-    std::ifstream lines(file);
-    for (std::string line; std::getline(lines, line);) {
-        if (line.compare(0, key.size(), key) != 0)
-            continue;
-        const std::size_t at = line.find(separator);
-        if (at == std::string::npos)
-            continue;
-        std::string value = line.substr(at + 1);
-        value.erase(0, value.find_first_not_of(" \t\""));
-        value.erase(value.find_last_not_of(" \t\"") + 1);
-        return value;
+/// The libraries and fonts that the running program has mapped into its memory: name, folder, SHA-256.
+std::vector<Row> MappedFiles(Session& session) {
+    std::set<fs::path> files;
+    std::ifstream maps("/proc/" + session.Display().Process() + "/maps");
+    for (std::string line; std::getline(maps, line);)
+        if (line.find(".so") != std::string::npos || line.find("/fonts/") != std::string::npos)
+            files.insert(line.substr(line.find('/')));
+    std::vector<Row> rows;
+    for (const fs::path& file : files) {
+        const bool isDelivered = file.string().starts_with(session.Person().Folder().string());
+        if (fs::exists(file))
+            rows.push_back({file.filename().string(), isDelivered ? "delivered" : file.parent_path().string(),
+                            Sha256(file)});
     }
-    return "unknown";
+    return rows;
 }
 
-std::string Now() {
-    const std::unique_ptr<GDateTime, decltype(&g_date_time_unref)> now(g_date_time_new_now_local(),
-                                                                       g_date_time_unref);
-    const std::unique_ptr<char, decltype(&g_free)> text(
-        g_date_time_format(now.get(), "%Y-%m-%d %H:%M:%S, time zone %Z (%:z)"), g_free);
-    return text.get();
-}
-
-std::string OperatingSystem() {
-    utsname kernel{};
-    ::uname(&kernel);
-    return ValueIn("/etc/os-release", "PRETTY_NAME", '=') + ", kernel " + kernel.sysname + " " +
-           kernel.release + " " + kernel.machine;
-}
-
-std::string Machine() {
-    return std::string(g_get_host_name()) + ", " + std::to_string(std::thread::hardware_concurrency()) +
-           " x " + ValueIn("/proc/cpuinfo", "model name", ':') + ", memory " +
-           ValueIn("/proc/meminfo", "MemTotal", ':');
-}
-
-std::string Operator() {
-    return std::string(g_get_user_name()) + " (" + g_get_real_name() + ")";
-}
-
-/// The SHA-256 of bytes in hexadecimal digits.
-std::string Sha256(const std::string& bytes) {
-    const std::unique_ptr<char, decltype(&g_free)> digits(
-        g_compute_checksum_for_data(G_CHECKSUM_SHA256, reinterpret_cast<const guchar*>(bytes.data()),
-                                    bytes.size()),
-        g_free);
-    return digits.get();
-}
-
-/// Where the delivered program comes from: whether it is the one built together with this validation.
-std::string Origin(const fs::path& program, const fs::path& built) {
-    if (built.empty() || !fs::exists(built))
-        return "not known; there was no program built from these sources to compare it with";
-    if (ReadWhole(program) == ReadWhole(built))
-        return "built from this commit on this machine (the files are identical)";
-    return "delivered from elsewhere: the file differs from the program built from this commit on this "
-           "machine";
+std::string Origin(const fs::path& program, const Sources& sources) {
+    if (!fs::exists(sources.Built) || Sha256(program) != Sha256(sources.Built))
+        return "not built from the sources of this validation";
+    return "built from commit " + sources.Commit;
 }
 
 } // namespace
+
+std::string Sha256(const fs::path& file) {
+    QFile bytes(QString::fromStdString(file.string()));
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    if (!bytes.open(QIODevice::ReadOnly) || !hash.addData(&bytes))
+        throw std::runtime_error(file.string() + " cannot be read");
+    return hash.result().toHex().toStdString();
+}
 
 std::vector<Row> FilesBelow(const fs::path& folder) {
     std::vector<Row> files;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
         const std::string name = entry.path().lexically_relative(folder).string();
-        if (entry.is_symlink()) {
-            files.push_back({name, "link to " + fs::read_symlink(entry.path()).string(), ""});
-        } else if (entry.is_regular_file()) {
-            const std::string bytes = ReadWhole(entry.path());
-            files.push_back({name, std::to_string(bytes.size()), Sha256(bytes)});
-        }
+        if (entry.is_symlink())
+            files.push_back({name, "link", "to " + fs::read_symlink(entry.path()).string()});
+        else if (entry.is_regular_file())
+            files.push_back({name, std::to_string(entry.file_size()), Sha256(entry.path())});
     }
-    std::sort(files.begin(), files.end());
+    std::ranges::sort(files);
     return files;
 }
 
-void RequireProgram(const fs::path& appFolder) {
-    if (!fs::is_regular_file(appFolder / ProgramFile))
-        throw std::runtime_error(appFolder.string() + " contains no program named " + ProgramFile + ".");
-}
-
-Identity Identify(const fs::path& appFolder, const SourceState& sources) {
-    RequireProgram(appFolder);
-    const fs::path folder = fs::canonical(appFolder);
-    const fs::path program = folder / ProgramFile;
-    Identity identity;
-    identity.Program = ApplicationTitle;
-    identity.Version = std::to_string(ApplicationVersion.Major) + "." +
-                       std::to_string(ApplicationVersion.Minor) + "." +
-                       std::to_string(ApplicationVersion.Revision);
-    identity.Commit = sources.Commit;
-    identity.Tree = sources.Tree;
-    identity.Started = Now();
-    identity.Facts = {{"Program", identity.Program},
-                      {"Version", identity.Version},
-                      {"Folder of the program", folder.string()},
-                      {"Commit of the sources", identity.Commit},
-                      {"Tree of the sources", identity.Tree},
-                      {"Program file", Origin(program, sources.Built)},
-                      {"Machine", Machine()},
-                      {"Operating system", OperatingSystem()},
-                      {"Date", identity.Started},
-                      {"Run by", Operator()}};
-    identity.Files = FilesBelow(folder);
-    identity.Libraries = LoadedLibraries(program);
-    return identity;
+Run Identify(const fs::path& folder, Session& session, const Sources& sources) {
+    const ListSetup setup{.SampleSize = 20};
+    session.Restart(setup);
+    Run what;
+    what.Version = ShownVersion(session);
+    if (const MadeList list = session.Make(setup); !list.NotMade.empty())
+        throw std::runtime_error("The program makes no list: " + list.NotMade);
+    what.Started = QDateTime::currentDateTime().toString("yyyy-MM-dd HH:mm:ss t").toStdString();
+    what.Files = FilesBelow(folder);
+    what.Mapped = MappedFiles(session);
+    what.Facts = {
+        {"Program", "Orvane Software, version " + what.Version + " as its About box shows"},
+        {"Folder", fs::canonical(folder).string()},
+        {"Origin", Origin(folder / "orvane", sources)},
+        {"Operating system", QSysInfo::prettyProductName().toStdString() + ", kernel " +
+                                 QSysInfo::kernelVersion().toStdString() + ", " +
+                                 QSysInfo::currentCpuArchitecture().toStdString()},
+        {"Machine", QSysInfo::machineHostName().toStdString()},
+        {"Desktop (XDG_CURRENT_DESKTOP)",
+         qEnvironmentVariable("XDG_CURRENT_DESKTOP", "not set").toStdString() + ", on a display of its own"},
+        {"Locale (LANG)", qEnvironmentVariable("LANG", "not set").toStdString()},
+    };
+    return what;
 }
 
 } // namespace orvane::validation

@@ -1,6 +1,7 @@
-// What was checked, on which machine, when and by whom.
+// What was examined, on which machine, and with which libraries.
 #pragma once
 
+#include "validation/lists/session.h"
 #include "validation/record.h"
 
 #include <filesystem>
@@ -9,32 +10,30 @@
 
 namespace orvane::validation {
 
-/// The sources of the validation, as given by its caller.
-struct SourceState {
-    std::string Commit = "unknown";
-    std::string Tree = "unknown"; ///< "clean", or what was changed
-    std::filesystem::path Built;  ///< the program that was built from these sources; may be empty
+/// Where the program of these sources is, and their state.
+struct Sources {
+    std::filesystem::path Built; ///< the program that was built from them
+    std::string Commit;          ///< with the number of changed files
 };
 
-struct Identity {
-    std::string Program;
-    std::string Version;
-    std::string Commit;
-    std::string Tree;
-    std::string Started;    ///< date, time of day and time zone
-    std::vector<Row> Facts; ///< name and value
-    std::vector<Row> Files; ///< of each delivered file the name, the size in bytes and the SHA-256
-    std::vector<Row>
-        Libraries; ///< of each library that the program loads the name, the version and the place
+/// One validation: what was examined, and how.
+struct Run {
+    std::string Version; ///< that the program shows in its About box
+    std::string Started; ///< date and time of the validation
+    bool Quick = false;
+    std::vector<Row> Facts;
+    std::vector<Row> Files;  ///< the delivered ones: name, bytes, SHA-256
+    std::vector<Row> Mapped; ///< files that the running program has mapped: name, folder, SHA-256
+    std::string Checksum;    ///< SHA-256 of the file SHA256SUMS, which lists the evidence
 };
 
-/// Throws std::runtime_error, with words for the user, when the folder holds no program.
-void RequireProgram(const std::filesystem::path& appFolder);
+/// Starts the program, asks for its version, and makes a list, so that everything it loads is loaded.
+Run Identify(const std::filesystem::path& folder, Session& session, const Sources& sources);
 
-/// Throws std::runtime_error when the folder holds no program or a file of it cannot be read.
-Identity Identify(const std::filesystem::path& appFolder, const SourceState& sources);
-
-/// The files below a folder, sorted: of each its name, its size in bytes and its SHA-256.
+/// Name, bytes and SHA-256 of each file in a folder and those below it.
 std::vector<Row> FilesBelow(const std::filesystem::path& folder);
+
+/// The SHA-256 of a file in hexadecimal digits. Throws std::runtime_error.
+std::string Sha256(const std::filesystem::path& file);
 
 } // namespace orvane::validation

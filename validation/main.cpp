@@ -1,112 +1,126 @@
-// Checks the delivered program and writes the record of validation.
-#include "validation/arguments.h"
-#include "validation/concealment.h"
-#include "validation/conclusion.h"
+// Checks the delivered program and writes the record of it.
+#include "validation/draws/guessing.h"
+#include "validation/draws/planted_faults.h"
+#include "validation/draws/second_program.h"
+#include "validation/draws/statistics.h"
 #include "validation/identity.h"
-#include "validation/json_record.h"
-#include "validation/known_answers.h"
-#include "validation/lists.h"
-#include "validation/output_folder.h"
-#include "validation/page.h"
-#include "validation/print.h"
-#include "validation/record.h"
-#include "validation/statistics.h"
-#include "validation/work_folder.h"
-#include "validation/wrong_programs.h"
+#include "validation/lists/checks.h"
+#include "validation/report.h"
 
-#include <chrono>
-#include <exception>
+#include <QCommandLineParser>
+#include <QGuiApplication>
+
 #include <iostream>
-#include <map>
-#include <string>
-#include <vector>
 
 namespace {
 
 using namespace orvane::validation;
+namespace driving = orvane::driving;
 namespace fs = std::filesystem;
-using Clock = std::chrono::steady_clock;
 
-constexpr const char* PageName = "validation-record.htm";
-constexpr const char* PdfName = "validation-record.pdf";
 constexpr const char* JsonName = "validation-record.json";
 
-std::string InWords(Clock::duration time) {
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time).count();
-    return std::to_string(seconds / 60) + " min " + std::to_string(seconds % 60) + " s";
+struct Arguments {
+    fs::path Program;
+    fs::path Output;
+    Scale Size;
+    Sources Origin;
+};
+
+Arguments ReadArguments(const QCoreApplication& application) {
+    QCommandLineParser parser;
+    parser.addPositionalArgument("program", "The folder of the delivered program.");
+    parser.addPositionalArgument("output", "The folder of the record, which is replaced.");
+    parser.addOptions({{"quick", "Fewer lists and smaller samples."},
+                       {"built", "The program that was built from the sources.", "file"},
+                       {"commit", "The commit of the sources.", "text"}});
+    parser.process(application);
+    const QStringList folders = parser.positionalArguments();
+    if (folders.size() != 2)
+        parser.showHelp(2);
+    return {folders[0].toStdString(),
+            fs::absolute(folders[1].toStdString()),
+            {parser.isSet("quick")},
+            {parser.value("built").toStdString(), parser.value("commit").toStdString()}};
 }
 
-void RunChecks(Record& record, const Scale& scale, const ListWorkplace& place) {
-    CheckKnownAnswers(record, scale);
-    CheckLists(record, scale, place);
-    CheckStatistics(record, scale);
-    CheckConcealment(record, scale);
-    CheckStatisticsChecks(record, scale);
-    CheckListChecks(record, scale);
-}
-
-/// The evidence files that the checks have put into the folder of the record.
-std::vector<Row> EvidenceIn(const fs::path& folder) {
-    std::vector<Row> files = FilesBelow(folder);
-    std::erase_if(files, [](const Row& file) { return file[0] == UnfinishedMark; });
-    return files;
-}
-
-/// Prints the page as it is before this check, to find out whether the finished page can be printed.
-void CheckPrinting(Record& record, const Run& run, const fs::path& work) {
-    record.Run("USE-3.1", "USE-3", "The record is printed to PDF on A4", Chapter::KnownAnswers,
+void RunChecks(Record& record, Session& session, const Scale& scale) {
+    const SetupTable table = ReadTable(SETUPS);
+    std::cout << "Chapters 3 and 4, lists from known keys" << std::endl;
+    const std::vector<MadeList> lists = CheckLists(record, session, table, KNOWN_KEY, scale);
+    CheckSecondProgram(record);
+    std::cout << "Chapter 5, refusals and settings" << std::endl;
+    CheckRefusals(record, session, table, KNOWN_KEY, scale);
+    std::cout << "Chapter 6, statistics" << std::endl;
+    const std::vector<Sample> samples = CheckStatistics(record, session, KNOWN_KEY, scale);
+    std::cout << "Chapter 7, guessing" << std::endl;
+    CheckGuessing(record);
+    std::cout << "Chapter 8, planted faults" << std::endl;
+    CheckRulesFindFaults(record, lists);
+    record.Run("REC-1.3", "Every statistic finds the fault in its sample", Chapter::PlantedFaults,
                [&](Evidence& evidence) {
-                   const int pages = PagesOf(PrintedPage(RecordPage(record, run), work));
-                   evidence.Demand(pages > 1, "The PDF has " + std::to_string(pages) + " pages.");
-                   evidence.Paragraph("Chromium printed the record on " + std::to_string(pages) + " pages.");
+                   std::vector<Row> rows;
+                   for (const PlantedFault& fault : PlantStatisticalFaults(samples)) {
+                       evidence.Demand(fault.Found, fault.Fault + " is not found");
+                       rows.push_back({fault.Fault, fault.Check, fault.Found ? "found" : "NOT FOUND"});
+                   }
+                   evidence.Table({"Fault", "Check that must find it", "Result"}, rows,
+                                  "Real samples with faults in them");
                });
 }
 
-bool IsPrintable(const Record& record) {
-    return record.Checks().back().Outcome == Result::Passed;
+/// Writes the record beside its evidence, and then puts the whole in the place of the one before.
+void Finish(const Record& record, Run& run, const fs::path& work, const fs::path& output) {
+    std::string sums;
+    for (const Row& file : FilesBelow(work))
+        sums += file[2] + "  " + file[0] + "\n";
+    driving::WriteFile(work / "SHA256SUMS", sums);
+    run.Checksum = Sha256(work / "SHA256SUMS");
+    driving::WriteFile(work / "validation-record.pdf", RecordPdf(record, run).toStdString());
+    driving::WriteFile(work / JsonName, RecordJson(record, run).toStdString());
+    fs::remove_all(output);
+    fs::rename(work, output);
 }
 
 int Validate(const Arguments& arguments) {
-    const Clock::time_point start = Clock::now();
-    const WorkFolder work;
-    work.RemoveOnSignals();
-    RequireProgram(arguments.App);
-    const OutputFolder output(arguments.Output);
-    Run run;
-    run.What = Identify(arguments.App, arguments.Sources);
-    run.Quick = arguments.Quick;
-    std::cout << "Validation of " << run.What.Program << " " << run.What.Version << " in "
-              << arguments.App.string() << (run.Quick ? ", quick form" : "") << std::endl;
-
+    const fs::path& output = arguments.Output;
+    if (!fs::is_regular_file(arguments.Program / "orvane"))
+        throw std::runtime_error(arguments.Program.string() + " does not hold the program");
+    if (fs::exists(output) && !fs::is_empty(output) && !fs::exists(output / JsonName))
+        throw std::runtime_error(output.string() + " holds other things than a record");
+    const fs::path work = output.string() + ".unfinished";
+    fs::remove_all(work);
+    Session session(arguments.Program, work / "lists");
+    Run run = Identify(arguments.Program, session, arguments.Origin);
+    run.Quick = arguments.Size.Quick;
+    std::cout << "Validation of version " << run.Version << " in " << arguments.Program << std::endl;
     Record record;
-    RunChecks(record, {run.Quick}, {fs::canonical(arguments.App), output.Path()});
-    run.Duration = InWords(Clock::now() - start);
-    run.Evidence = EvidenceIn(output.Path());
-    CheckPrinting(record, run, work.Path());
-
-    std::map<std::string, std::string> files;
-    files[PageName] = RecordPage(record, run);
-    if (IsPrintable(record))
-        files[PdfName] = PrintedPage(files[PageName], work.Path());
-    files[JsonName] = RecordJson(record, run);
-    output.Finish(files);
-
-    std::cout << "\nThe record: " << (output.Path() / PageName).string() << "\n";
-    for (const std::string& line : Conclusion(record))
+    RunChecks(record, session, arguments.Size);
+    session.Stop();
+    record.Run("REC-2.1", "The delivered files have not changed", Chapter::PlantedFaults,
+               [&](Evidence& evidence) {
+                   evidence.Demand(FilesBelow(arguments.Program) == run.Files, "a file has changed");
+               });
+    Finish(record, run, work, output);
+    const std::vector<std::string> conclusion = Conclusion(record);
+    for (const std::string& line : conclusion)
         std::cout << line << "\n";
-    std::cout.flush();
-    return AllPassed(record) ? 0 : 1;
+    std::cout << "The record is in " << output << std::endl;
+    return conclusion.size() == 1 ? 0 : 1;
 }
 
 } // namespace
 
 int main(int count, char** words) {
     try {
-        return Validate(ReadArguments(std::vector<std::string>(words + 1, words + count)));
+        // The document needs fonts and no display. The program inherits the variable as it was.
+        const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        const QGuiApplication application(count, words);
+        qputenv("QT_QPA_PLATFORM", platform);
+        return Validate(ReadArguments(application));
     } catch (const std::exception& error) {
         std::cerr << "\nNo record was written: " << error.what() << "\n";
-    } catch (...) {
-        std::cerr << "\nNo record was written.\n";
+        return 2;
     }
-    return 2;
 }

@@ -1,7 +1,7 @@
 // Settings files as a person would write them.
 #pragma once
 
-#include "tour/settings_text.h"
+#include "tools/driving/settings_text.h"
 
 namespace orvane::fakes {
 

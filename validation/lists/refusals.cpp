@@ -1,0 +1,191 @@
+#include "validation/lists/checks.h"
+
+#include "validation/draws/known_key.h"
+
+namespace orvane::validation {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using driving::MainTitle;
+using driving::OptionsTitle;
+using driving::SettingsText;
+
+constexpr const char* Report = "Error Description: ";
+
+/// Input that must be refused: a text typed into a box, beside this set-up.
+struct Refusal {
+    ListSetup Setup;
+    const char* Box;
+    const char* Typed;
+    std::vector<std::string> Messages; ///< in their order
+};
+
+constexpr const char* SampleBox = "Sample Size";
+constexpr const char* LevelBox = "Level of significance";
+
+std::vector<Refusal> Refusals() {
+    const ListSetup plain{.SampleSize = 20};
+    const ListSetup equal{.Blocks = BlockOption::Equal, .SampleSize = 20};
+    const ListSetup listed{.Blocks = BlockOption::Listed, .SampleSize = 20};
+    const ListSetup large{.Blocks = BlockOption::Equal, .CodeLength = 6, .SampleSize = 32767};
+    const char* const equalBox = "Size of Equal Blocks";
+    const char* const listedBox = "Random Block Sizes";
+    const std::string noSample = "please specify the sample size";
+    const std::string noSize = "please specify the block size";
+    const std::string noSizes = "please specify block sizes";
+    const std::string wrongSizes = "Error in the value of block sizes";
+    const std::string smaller = ", please choose smaller blocks or a smaller sample size";
+    const std::string wrongLevel = "Significance level must be greater than 0 ad less than 0.35";
+    return {
+        {plain, SampleBox, "", {noSample}},
+        {plain, SampleBox, "none yet", {noSample}},
+        {plain, SampleBox, "-5", {noSample}},
+        {plain, SampleBox, "40000", {"the sample size can be at most 32767"}},
+        {equal, equalBox, "", {noSize}},
+        {equal, equalBox, "-4", {noSize}},
+        {equal, equalBox, "0.4", {noSize}},
+        {equal, equalBox, "7", {"Block size must be divisable by the number of groups"}},
+        {equal, equalBox, "32768", {"the block size can be at most 32767"}},
+        {large, equalBox, "30000", {"the blocks hold more than 32767 subjects" + smaller}},
+        {equal, equalBox, "16000", {"a block can hold at most 14654 subjects" + smaller}},
+        {listed, listedBox, "", {noSizes}},
+        {listed, listedBox, "6;8", {noSizes}},
+        {listed, listedBox, "8-6", {noSizes}},
+        {listed, listedBox, "6,,8", {wrongSizes, noSizes}},
+        {listed, listedBox, "6-", {wrongSizes, noSizes}},
+        {listed, listedBox, "6, 9", {"block sizes must be divisable by the number of groups", noSizes}},
+        {plain, LevelBox, "", {wrongLevel}},
+        {plain, LevelBox, "0", {wrongLevel}},
+        {plain, LevelBox, "0,05", {wrongLevel}},
+        {plain, LevelBox, "0.31", {wrongLevel}},
+    };
+}
+
+void CheckRefusal(Evidence& evidence, Session& session, const Refusal& refusal) {
+    driving::Desktop& desktop = session.Display();
+    driving::User& user = session.Person();
+    session.Restart(refusal.Setup);
+    const bool inOptions = refusal.Box != SampleBox;
+    const char* const title = inOptions ? OptionsTitle : MainTitle;
+    if (inOptions)
+        user.OpenOptions();
+    if (refusal.Box == LevelBox)
+        desktop.Press({"ctrl+Tab", "ctrl+Tab", "ctrl+Tab"});
+    user.Fill(title, refusal.Box, refusal.Typed);
+    desktop.Press({"Return"});
+    const std::string what = std::string("\"") + refusal.Typed + "\" as " + refusal.Box;
+    for (const std::string& expected : refusal.Messages)
+        evidence.Compare(what, expected, session.Told());
+    desktop.Await(title);
+    evidence.Demand(user.Find(title, "text", refusal.Box).Text == refusal.Typed, what + " is lost");
+}
+
+/// Expects a report of a failure in the message `told`, with this text in it.
+void ExpectReport(Evidence& evidence, const std::string& what, const std::string& told,
+                  const std::string& holds = "") {
+    const std::string line = told.substr(0, told.find('\n'));
+    const bool isRight = line.starts_with(Report) && line.find(holds) != std::string::npos;
+    evidence.Compare(what, isRight ? line : Report + holds, line);
+}
+
+void CheckNoEntropy(Evidence& evidence, Session& session, const fs::path& library) {
+    const fs::path file = session.Display().Folder() / "no entropy.txt";
+    for (const ListSetup& setup : {ListSetup{.Output = Form::TextFile, .SampleSize = 20},
+                                   ListSetup{.Output = Form::Window, .SampleSize = 20},
+                                   ListSetup{.Output = Form::Clipboard, .SampleSize = 20},
+                                   ListSetup{.RandomCodes = true, .SampleSize = 20}}) {
+        session.Restart(setup, WithoutEntropy(library));
+        session.Enter(setup);
+        if (setup.Output == Form::TextFile && !setup.RandomCodes)
+            session.Person().Answer(session.Display().Await(driving::SaveListTitle), file.string());
+        const std::string codes = setup.RandomCodes ? ", random codes" : ", sequential codes";
+        ExpectReport(evidence, Text(setup.Output) + codes, session.Told());
+        session.Person().AwaitMain();
+        evidence.Demand(driving::ReadFile(file).find("Group") == std::string::npos, "a list was written");
+        evidence.Demand(session.TemporaryFiles().empty(), "a temporary list stays");
+    }
+}
+
+void CheckCharacters(Evidence& evidence, Session& session) {
+    driving::User& user = session.Person();
+    const fs::path folder = session.Display().Folder();
+    const std::string name = "\u03A9";
+    const ListSetup setup{.SampleSize = 20};
+    session.Restart(setup);
+    // Pasted, because not every keyboard has the letter.
+    driving::Desktop::Run({"sh", "-c", "printf " + name + " | xclip -selection clipboard >/dev/null 2>&1"});
+    user.FocusOn(MainTitle, "Group Name");
+    session.Display().Press({"ctrl+a", "ctrl+v"});
+    user.AwaitText(MainTitle, "Group Name", name);
+    for (const fs::path& file : {folder / "omega.txt", folder / "omega.htm"}) {
+        session.Enter(setup);
+        user.Answer(session.Display().Await(driving::SaveListTitle), file.string());
+        if (file.extension() == ".txt")
+            ExpectReport(evidence, "A group \"" + name + "\" in a text file", session.Told(), name);
+        else
+            user.AwaitViewer("browser", file);
+        user.AwaitMain();
+    }
+    evidence.Demand(!fs::exists(folder / "omega.txt"), "the text file was written");
+    evidence.Demand(driving::ReadFile(folder / "omega.htm").find("&#937;") != std::string::npos,
+                    "the web page has no reference to the character");
+}
+
+void CheckSettings(Evidence& evidence, Session& session, const std::vector<ListSetup>& setups) {
+    const fs::path given = session.Display().Folder() / "given.stg";
+    const fs::path saved = session.Display().Folder() / "saved again.stg";
+    session.Restart({});
+    for (const ListSetup& setup : setups) {
+        const std::string bytes = BytesOf(SettingsOf(setup));
+        const std::string what = "settings of list " + std::to_string(setup.Number);
+        driving::WriteFile(given, bytes);
+        evidence.Compare("Loaded: " + what, "Settings were loaded successfully!", session.Load(given));
+        evidence.Compare("Saved: " + what, "Settings were saved successfully!", session.Save(saved));
+        evidence.Demand(driving::ReadFile(saved) == bytes, what + " change when they are saved");
+    }
+    evidence.Demand(session.Person().Exit() == 0, "the program ends with a fault");
+    evidence.Demand(driving::ReadFile(session.Person().SavedSettings()) == BytesOf(SettingsOf(setups.back())),
+                    "the settings saved at the end of the program are different");
+}
+
+void CheckDamagedSettings(Evidence& evidence, Session& session) {
+    const std::string right = BytesOf(SettingsText{});
+    const fs::path file = session.Display().Folder() / "damaged.stg";
+    const std::vector<std::pair<const char*, std::string>> damages = {
+        {"An empty file", ""},
+        {"A file without its last lines", right.substr(0, right.find("[Block Option"))},
+        {"17 groups", BytesOf(SettingsText{.Groups = std::vector<std::string>(17, "A")})},
+        {"Output option 3", BytesOf(SettingsText{.OutputOption = 3})},
+    };
+    for (const auto& [what, bytes] : damages) {
+        session.Restart({});
+        driving::WriteFile(file, bytes);
+        ExpectReport(evidence, what, session.Load(file));
+    }
+}
+
+} // namespace
+
+void CheckRefusals(Record& record, Session& session, const SetupTable& table, const fs::path& library,
+                   const Scale& scale) {
+    constexpr Chapter here = Chapter::Refusals;
+    record.Run("CON-2.1", "No list without entropy", here,
+               [&](Evidence& evidence) { CheckNoEntropy(evidence, session, library); });
+    record.Run("MSG-1.1", "Input that is refused, and stays where it was typed", here,
+               [&](Evidence& evidence) {
+                   for (const Refusal& refusal : Refusals())
+                       CheckRefusal(evidence, session, refusal);
+               });
+    record.Run("REP-6.1", "A character that the code page does not hold", here,
+               [&](Evidence& evidence) { CheckCharacters(evidence, session); });
+    std::vector<ListSetup> setups = SetupsOf(table);
+    setups.resize(static_cast<std::size_t>(scale.Of(6, 2)));
+    record.Run("SET-2.1", "Settings that are loaded and saved again", here,
+               [&](Evidence& evidence) { CheckSettings(evidence, session, setups); });
+    record.Run("SET-3.1", "Damaged settings", here,
+               [&](Evidence& evidence) { CheckDamagedSettings(evidence, session); });
+}
+
+} // namespace orvane::validation
