@@ -1,7 +1,7 @@
 // A whole list: 32,764 subjects in blocks of 4, random mixed codes of 6 characters, to a text file.
 #include "engine/random_source.h"
 #include "engine/subject_codes.h"
-#include "output/text_report.h"
+#include "lists/reports.h"
 #include "platform/linux/code_page_iconv.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_entropy.h"
@@ -26,6 +26,7 @@ ListSettings Settings() {
     settings.CodeAlphaNum = Mixed;
     settings.CodeSeqRandom = Random;
     settings.CodeLength = 6;
+    settings.GroupNames = {"Group 1", "Group 2"};
     return settings;
 }
 
@@ -33,11 +34,6 @@ std::vector<std::int16_t> BlockSizes() {
     std::vector<std::int16_t> sizes(Blocks + 1, 4);
     sizes.front() = 0;
     return sizes;
-}
-
-const std::vector<std::string>& Names() {
-    static const std::vector<std::string> names{"Group 1", "Group 2"};
-    return names;
 }
 
 std::string TemporaryFile(const char* name) {
@@ -58,15 +54,13 @@ void MakeList(benchmark::State& state, QuietDesktop& desk, Files& files, bool re
     const ListSettings settings = Settings();
     ListResults results;
     results.BlockSizes = BlockSizes();
-    const FixedNames grid(Names());
     LinuxEntropy entropy;
     LinuxClock clock;
     const CodePage page = WesternCodePage();
     RandomSource random(entropy);
-    Platform platform{desk.messages, desk.pointer, files,     page, clock, random,
-                      desk.shell,    desk.board,   desk.keys, "",   '/'};
-    SequenceBuilder builder(settings, results, grid, platform);
-    const ReportContext context{settings, results, grid, builder, platform};
+    Platform platform{desk.messages, desk.pointer,   files,         page, clock, random,
+                      desk.shell,    desk.clipboard, desk.registry, "",   '/'};
+    const ReportContext context{settings, results, platform};
     const ListFile file("orvane-benchmark-program.txt");
     while (state.KeepRunning()) {
         CreateCodeArr(settings, results, random, clock);
@@ -104,7 +98,7 @@ void Straightforward(benchmark::State& state) {
     straightforward::Source source(entropy);
     const ListFile file("orvane-benchmark-straightforward.txt");
     while (state.KeepRunning())
-        straightforward::WriteList(settings, sizes, Names(), source, clock, file.path);
+        straightforward::WriteList(settings, sizes, settings.GroupNames, source, clock, file.path);
     state.counters["bytes"] = static_cast<double>(std::filesystem::file_size(file.path));
 }
 

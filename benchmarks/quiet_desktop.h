@@ -7,17 +7,12 @@
 #include "platform/linux/linux_registry.h"
 #include "platform/message_box.h"
 #include "platform/mouse_pointer.h"
-#include "platform/ms_flex_grid.h"
 #include "platform/shell32.h"
 
 #include <cstdint>
-#include <functional>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace orvane {
 
@@ -90,34 +85,13 @@ class FilesInMemory : public Files {
     };
 };
 
-/// Fixed names of the groups.
-class FixedNames : public MSFlexGrid {
-  public:
-    explicit FixedNames(std::vector<std::string> names) : names_(std::move(names)) {}
-    [[nodiscard]] std::int16_t Rows() const override { return static_cast<std::int16_t>(names_.size() + 1); }
-    void SetRows(std::int16_t /*rows*/) override {}
-    [[nodiscard]] std::int16_t Row() const override { return 1; }
-    void SetRow(std::int16_t /*row*/) override {}
-    [[nodiscard]] std::int16_t Col() const override { return 1; }
-    void SetCol(std::int16_t /*col*/) override {}
-    [[nodiscard]] std::string Text() const override { return names_.front(); }
-    void SetText(const std::string& /*text*/) override {}
-    [[nodiscard]] std::string TextMatrix(std::int16_t row, std::int16_t /*col*/) const override {
-        return names_.at(static_cast<std::size_t>(row - 1));
-    }
-    void OnRowColChange(std::function<void()> /*handler*/) override {}
-
-  private:
-    std::vector<std::string> names_;
-};
-
 struct QuietDesktop {
     LastMessage messages;
     NoPointer pointer;
     FilesInMemory files;
     NoViewer shell;
-    NoClipboard board;
-    LinuxRegistry keys;
+    NoClipboard clipboard;
+    LinuxRegistry registry;
 };
 
 } // namespace orvane

@@ -1,8 +1,8 @@
 #include "straightforward.h"
 
-#include "engine/sequence_builder.h"
 #include "engine/subject_codes.h"
 #include "engine/vector_kernels.h"
+#include "lists/cell_walk.h"
 
 #include <algorithm>
 #include <bit>

@@ -5,21 +5,9 @@
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
 #include <utility>
 
 namespace orvane {
-
-namespace {
-
-/// 10 N N in 32 bits, or an Overflow failure.
-std::int32_t CountExchanges(std::size_t size) {
-    constexpr auto most = std::numeric_limits<std::int32_t>::max();
-    const auto N = static_cast<std::int32_t>(std::min<std::size_t>(size, most));
-    return Multiply32(Multiply32(N, 10), N);
-}
-
-} // namespace
 
 std::vector<std::uint8_t> DealGroups(std::size_t size, std::int16_t numberOfGroups) {
     std::vector<std::uint8_t> groups(size);
@@ -33,7 +21,8 @@ std::vector<std::uint8_t> DealGroups(std::size_t size, std::int16_t numberOfGrou
 
 void ShuffleBlock(UniformSource& random, std::span<std::uint8_t> groups, const VectorKernels& kernels) {
     alignas(CacheLine) std::int16_t positions[4 * BatchValues];
-    auto valuesLeft = 2 * static_cast<std::size_t>(CountExchanges(groups.size()));
+    const auto N = static_cast<std::int32_t>(groups.size());
+    auto valuesLeft = 2 * static_cast<std::size_t>(Multiply32(Multiply32(N, 10), N));
     while (valuesLeft > 0) {
         const auto next = std::span(positions).first(std::min(valuesLeft, std::size(positions)));
         // Positions count from 0 here. Lo is only added to the draw, so Lo = 0 gives position - 1 of Lo = 1.

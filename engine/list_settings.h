@@ -1,16 +1,12 @@
 // Every input of a randomization list, and what a generation leaves behind.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace orvane {
 
-/// Groups that a list can have.
-inline constexpr std::int16_t FewestGroups = 2;
-inline constexpr std::int16_t MostGroups = 16;
 /// The list size is held in 16 bits.
 inline constexpr std::int32_t LargestList = 32767;
 /// The largest N whose 10 N N exchanges can be counted in 32 bits.
@@ -18,22 +14,21 @@ inline constexpr std::int32_t LargestBlock = 14654;
 inline constexpr std::int16_t LongestCode = 10;
 inline constexpr std::int16_t MostColumns = 10;
 
-/// Values stand in settings files: never change them.
+// The values of the following constants stand in settings files: never change them.
 enum ListDestinations : std::int32_t { ToFile = 0, ToWindow = 1, ToClipboard = 2 };
-/// Values stand in settings files: never change them.
 enum BlockOptions : std::int32_t { OnlyOneBlock = 0, EqualSize = 1, RandomSizesOf = 2, RandomBlockSize = 3 };
-/// Values stand in settings files: never change them.
 enum CodeAlphabets : std::int32_t { Alpha = 0, Numeric = 1, Mixed = 2 };
-/// Values stand in settings files: never change them.
 enum CodeOrders : std::int32_t { Sequential = 0, Random = 1 };
 
 enum SelectedCommands : std::int16_t { NotClosedByButton = 0, ClosedByOK = 1, ClosedByCancel = 2 };
 
-/// The inputs. One instance lives as long as the program. The group names are not a field: they are stored
-/// only in the group name grid, the name of group g in row g, column 1.
+/// The inputs. One instance lives as long as the program.
 struct ListSettings {
     std::int16_t NumberOfGroups = 2; ///< 2 to 16
-    std::int16_t SampleSize = 0;     ///< subjects asked for; 0 not given; above 0 to generate
+    /// The name of group g in slot g - 1, as the names stood at the last OK of the options window. A list is
+    /// made of these groups. The home of the names is the group name grid.
+    std::vector<std::string> GroupNames;
+    std::int16_t SampleSize = 0; ///< subjects asked for; 0 not given; above 0 to generate
     std::int32_t OutputOption = ToFile;
     std::int16_t Columns = 6;     ///< 1 to 10, columns of every table of the list
     bool TableBorder = false;     ///< web page only
@@ -60,8 +55,5 @@ struct ListResults {
     float MinPValue = 0;  ///< smallest accepted P value of this generation; 1 before the first
     float MaxPValue = 0;  ///< largest accepted P value of this generation; 0 before the first
 };
-
-/// "0" to "9", then "A" to "Z".
-using AlphaNumTable = std::array<char, 36>;
 
 } // namespace orvane

@@ -33,10 +33,6 @@ Target Round(double value, const char* routine) {
     return static_cast<Target>(rounded);
 }
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 std::string WithoutWhiteSpace(std::string_view text) {
     std::string rest(text);
     std::erase_if(rest, [](char c) { return c == ' ' || c == '\t' || c == '\n'; });
@@ -45,7 +41,7 @@ std::string WithoutWhiteSpace(std::string_view text) {
 
 std::optional<int> DigitOf(char c, int base) {
     int digit = base;
-    if (IsDigit(c))
+    if (c >= '0' && c <= '9')
         digit = c - '0';
     else if (c >= 'A' && c <= 'F')
         digit = c - 'A' + 10;
@@ -66,81 +62,52 @@ double WholeNumber(std::string_view digits, int base) {
     return value;
 }
 
-/// The parts of a decimal number at the start of a text.
-class DecimalText {
-  public:
-    explicit DecimalText(std::string_view text) : text_(text) {
-        if (Peek() == '+' || Peek() == '-')
-            negative_ = text_[next_++] == '-';
-        ReadMantissa();
-        if (!mantissa_.empty())
-            ReadExponent();
-    }
+/// The length of the digits at the start of a text.
+std::size_t DigitsAt(std::string_view text) {
+    return std::min(text.find_first_not_of("0123456789"), text.size());
+}
 
-    [[nodiscard]] double Value() const {
-        if (mantissa_.empty())
-            return 0;
-        const std::string number = mantissa_ + "e" + exponent_;
-        double value = 0;
-        if (std::from_chars(number.data(), number.data() + number.size(), value).ec ==
-            std::errc::result_out_of_range)
-            value = IsLarge() ? std::numeric_limits<double>::infinity() : 0;
-        return negative_ ? -value : value;
-    }
+/// For a number that from_chars cannot hold, written as digits, a point and an exponent: whether it is too
+/// large, not too small.
+bool IsTooLarge(std::string_view number) {
+    const std::size_t mark = std::min(number.find('e'), number.size());
+    const std::string_view mantissa = number.substr(0, mark);
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    const std::size_t lead = mantissa.find_first_not_of("0.");
+    if (lead == std::string_view::npos)
+        return false;
+    std::string_view written = number.substr(std::min(mark + 1, number.size()));
+    if (written.starts_with('+'))
+        written.remove_prefix(1);
+    std::int64_t exponent = 0;
+    if (std::from_chars(written.data(), written.data() + written.size(), exponent).ec ==
+        std::errc::result_out_of_range)
+        return written.front() != '-';
+    return exponent > static_cast<std::int64_t>(lead) - static_cast<std::int64_t>(point);
+}
 
-  private:
-    [[nodiscard]] char Peek(std::size_t ahead = 0) const {
-        return next_ + ahead < text_.size() ? text_[next_ + ahead] : '\0';
+/// The value of the decimal number at the start of a text; 0 if there is none.
+double DecimalValue(std::string text) {
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+'))
+        text.erase(0, 1);
+    const std::size_t whole = DigitsAt(text);
+    std::size_t end = whole;
+    if (text.substr(whole, 1) == ".")
+        end += 1 + DigitsAt(std::string_view(text).substr(whole + 1));
+    if (end == 0)
+        return 0;
+    if (text.find_first_of("EeDd", end) == end)
+        text[end] = 'e'; // from_chars does not know D
+    double value = 0;
+    const char* const last = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), last, value);
+    if (read.ec == std::errc::result_out_of_range) {
+        const std::string_view number(text.data(), static_cast<std::size_t>(read.ptr - text.data()));
+        value = IsTooLarge(number) ? std::numeric_limits<double>::infinity() : 0;
     }
-
-    void ReadMantissa() {
-        while (IsDigit(Peek()))
-            mantissa_ += text_[next_++];
-        if (Peek() == '.' && (!mantissa_.empty() || IsDigit(Peek(1)))) {
-            if (mantissa_.empty())
-                mantissa_ = "0";
-            pointAt_ = mantissa_.size();
-            mantissa_ += text_[next_++];
-            while (IsDigit(Peek()))
-                mantissa_ += text_[next_++];
-        } else {
-            pointAt_ = mantissa_.size();
-        }
-    }
-
-    void ReadExponent() {
-        constexpr std::string_view introducers = "EeDd";
-        if (Peek() == '\0' || introducers.find(Peek()) == std::string_view::npos)
-            return;
-        const bool isSigned = Peek(1) == '+' || Peek(1) == '-';
-        if (!IsDigit(Peek(isSigned ? 2 : 1)))
-            return;
-        exponent_ = Peek(1) == '-' ? "-" : "";
-        next_ += isSigned ? 2 : 1;
-        while (IsDigit(Peek()))
-            exponent_ += text_[next_++];
-    }
-
-    /// For a number outside the range of a float: whether it is too large, not too small.
-    [[nodiscard]] bool IsLarge() const {
-        const std::size_t lead = mantissa_.find_first_not_of("0.");
-        if (lead == std::string::npos)
-            return false;
-        std::int32_t exponent = 0;
-        const auto read = std::from_chars(exponent_.data(), exponent_.data() + exponent_.size(), exponent);
-        const bool countsMoreThanTheDigits = read.ec == std::errc::result_out_of_range;
-        if (countsMoreThanTheDigits)
-            return exponent_.front() != '-';
-        return static_cast<std::int64_t>(pointAt_) - static_cast<std::int64_t>(lead) + exponent > 0;
-    }
-
-    std::string_view text_;
-    std::size_t next_ = 0;
-    bool negative_ = false;
-    std::string mantissa_; ///< digits and at most one point; empty when the text is no number
-    std::size_t pointAt_ = 0;
-    std::string exponent_ = "0";
-};
+    return negative ? -value : value;
+}
 
 } // namespace
 
@@ -153,7 +120,7 @@ double NumericValueOrInfinity(std::string_view text) {
         if (view[1] == 'O' || view[1] == 'o')
             return WholeNumber(view.substr(2), 8);
     }
-    return DecimalText(view).Value();
+    return DecimalValue(number);
 }
 
 double NumericValue(std::string_view text) {
@@ -220,6 +187,7 @@ std::string SevenDigits(float value) {
 }
 
 std::string FourDecimals(float value) {
+    // Not by std::to_chars, which rounds a half to the even digit: a half goes away from zero here.
     constexpr int decimals = 4;
     std::string digits = std::to_string(std::llround(static_cast<double>(value) * 10000));
     if (digits.size() <= decimals)

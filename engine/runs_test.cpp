@@ -1,7 +1,6 @@
 #include "engine/runs_test.h"
 
 #include "engine/numbers.h"
-#include "platform/failure.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,29 +28,24 @@ std::int32_t MostRuns(const RunsCounts& counts) {
 
 } // namespace
 
-std::int16_t GetIntName(const MSFlexGrid& groupNames, const std::string& strName) {
-    for (std::int16_t i = 1; i < groupNames.Rows(); ++i)
-        if (groupNames.TextMatrix(i, 1) == strName)
-            return i;
-    return 0;
+std::int16_t GetIntName(const std::vector<std::string>& groupNames, const std::string& strName) {
+    const auto found = std::find(groupNames.begin(), groupNames.end(), strName);
+    return found == groupNames.end() ? std::int16_t{0}
+                                     : static_cast<std::int16_t>(found - groupNames.begin() + 1);
 }
 
-std::vector<std::int16_t> GroupNumbers(const MSFlexGrid& groupNames, std::int16_t numberOfGroups) {
+std::vector<std::int16_t> GroupNumbers(const std::vector<std::string>& groupNames) {
     std::vector<std::int16_t> numbers{0};
-    for (std::int16_t g = 1; g <= numberOfGroups; ++g)
-        numbers.push_back(GetIntName(groupNames, groupNames.TextMatrix(g, 1)));
+    for (const std::string& name : groupNames)
+        numbers.push_back(GetIntName(groupNames, name));
     return numbers;
 }
 
 float GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& messages) {
-    try {
-        return RunsPValue(RunsStatistic(CountRuns(IntArr)));
-    } catch (const Failure& failure) {
-        if (failure.Number == failure_number::Arithmetic)
-            messages.Show("Insufficient memory to perform statistics");
-    } catch (const std::exception&) {
-        // No message for other failures, such as no memory: the result tells that the test failed.
-    }
+    const std::optional<float> z = RunsStatistic(CountRuns(IntArr));
+    if (z)
+        return RunsPValue(*z);
+    messages.Show("Insufficient memory to perform statistics");
     return 0;
 }
 
@@ -66,18 +60,17 @@ RunsCounts CountRuns(std::span<const std::int16_t> IntArr) {
     for (const std::int16_t number : IntArr) {
         const bool below = isBelow(number);
         if (below != current)
-            counts.runs = Add16(counts.runs, 1);
+            ++counts.runs;
         current = below;
         ++(below ? counts.n0 : counts.n1);
     }
     return counts;
 }
 
-float RunsStatistic(const RunsCounts& counts) {
+std::optional<float> RunsStatistic(const RunsCounts& counts) {
     if (!HasStatistic(counts))
-        throw Failure("The Runs test has no value for this block.", failure_number::Arithmetic,
-                      "GetRandomness");
-    const double a = Multiply32(Multiply32(2, counts.n0), counts.n1);
+        return std::nullopt;
+    const double a = 2.0 * counts.n0 * counts.n1;
     const double m = counts.n0 + counts.n1;
     const auto expected = static_cast<float>(a / m + 1);
     const double variance = (a * (a - m)) / (m * m * (m - 1));
@@ -93,14 +86,18 @@ float RunsPValue(float z) {
 
 bool CanPassRunsTest(std::span<const std::int16_t> IntArr, float sigLevel) {
     RunsCounts counts = CountRuns(IntArr);
-    if (!HasStatistic(counts))
-        return false;
-    for (std::int32_t runs = 2; runs <= MostRuns(counts); ++runs) {
-        counts.runs = static_cast<std::int16_t>(runs);
-        if (RunsPValue(RunsStatistic(counts)) > sigLevel)
+    const std::int32_t most = MostRuns(counts);
+    for (counts.runs = 2; counts.runs <= most; ++counts.runs) {
+        const std::optional<float> z = RunsStatistic(counts);
+        if (z && RunsPValue(*z) > sigLevel)
             return true;
     }
     return false;
+}
+
+std::string CannotPassRunsTest(std::size_t size, float sigLevel) {
+    return "a block of " + std::to_string(size) + " subjects cannot pass the Runs test at level " +
+           SevenDigits(sigLevel) + ", please choose other blocks, a lower level or no Runs test";
 }
 
 } // namespace orvane

@@ -6,7 +6,6 @@
 #include "platform/failure.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace orvane {
@@ -39,33 +38,25 @@ std::vector<std::string> LayOut(std::vector<std::string> positions, std::int16_t
 void SequenceBuilder::BuildSequenceArr(std::vector<std::string>& ArrStr,
                                        std::vector<std::string>& BlockCodeArr, std::int16_t OffSet) {
     const std::size_t size = ArrStr.size();
-    if (size == 0 || OffSet < 0 || static_cast<std::size_t>(OffSet) + size > results_.CodeArr.size())
-        throw Failure("A block of the list has no positions or no codes.", failure_number::InvalidArgument,
-                      "BuildSequenceArr");
+    const std::vector<std::string>& names = settings_.GroupNames;
+    if (names.empty() || size == 0 || OffSet < 0 ||
+        static_cast<std::size_t>(OffSet) + size > results_.CodeArr.size())
+        throw Failure("A block of the list has no positions, no codes or no groups.",
+                      failure_number::InvalidArgument, "BuildSequenceArr");
 
-    const std::vector<std::string> names = GroupNames();
-    std::vector<std::uint8_t> groups = DealGroups(size, settings_.NumberOfGroups);
+    std::vector<std::uint8_t> groups = DealGroups(size, static_cast<std::int16_t>(names.size()));
     BlockCodeArr.assign(results_.CodeArr.begin() + OffSet,
                         results_.CodeArr.begin() + OffSet + static_cast<std::ptrdiff_t>(size));
     ShuffleUntilAccepted(groups);
 
     std::transform(groups.begin(), groups.end(), ArrStr.begin(),
-                   [&](std::uint8_t group) { return names[group]; });
+                   [&](std::uint8_t group) { return names[group - 1U]; });
     ArrStr = LayOut(std::move(ArrStr), settings_.Columns);
     BlockCodeArr = LayOut(std::move(BlockCodeArr), settings_.Columns);
 }
 
-std::vector<std::string> SequenceBuilder::GroupNames() const {
-    std::vector<std::string> names(1);
-    for (std::int16_t g = 1; g <= settings_.NumberOfGroups; ++g)
-        names.push_back(groupNames_.TextMatrix(g, 1));
-    return names;
-}
-
 void SequenceBuilder::ShuffleUntilAccepted(std::vector<std::uint8_t>& groups) {
-    std::vector<std::int16_t> numberOfGroup;
-    if (settings_.PerformRuns)
-        numberOfGroup = GroupNumbers(groupNames_, settings_.NumberOfGroups);
+    const std::vector<std::int16_t> numberOfGroup = GroupNumbers(settings_.GroupNames);
     std::vector<std::int16_t> numbers(groups.size());
     for (int attempt = 0; attempt < MostAttempts; ++attempt) {
         desktop_.Random.UniformReseed(desktop_.Clock.SecondsSinceMidnight());
@@ -83,16 +74,14 @@ void SequenceBuilder::ShuffleUntilAccepted(std::vector<std::uint8_t>& groups) {
 }
 
 bool SequenceBuilder::IsAccepted(std::span<const std::int16_t> numbers) {
-    const float PValue = GetRandomness(numbers, desktop_.Messages);
-    results_.LastPValue = PValue;
-    if (PValue > settings_.SigLevel) {
-        results_.MaxPValue = std::max(results_.MaxPValue, PValue);
-        results_.MinPValue = std::min(results_.MinPValue, PValue);
+    results_.LastPValue = GetRandomness(numbers, desktop_.Messages);
+    if (results_.LastPValue > settings_.SigLevel) {
+        results_.MaxPValue = std::max(results_.MaxPValue, results_.LastPValue);
+        results_.MinPValue = std::min(results_.MinPValue, results_.LastPValue);
         return true;
     }
     if (!CanPassRunsTest(numbers, settings_.SigLevel))
-        throw Failure("A block of " + std::to_string(numbers.size()) +
-                          " subjects cannot pass the Runs test at level " + SevenDigits(settings_.SigLevel),
+        throw Failure(CannotPassRunsTest(numbers.size(), settings_.SigLevel),
                       failure_number::CannotPassRunsTest, "BuildSequenceArr");
     return false;
 }
@@ -101,12 +90,6 @@ std::int16_t RaiseToLimit(std::int16_t n, std::int16_t columns) {
     if (n % columns == 0)
         return n;
     return Multiply16(columns, Add16(static_cast<std::int16_t>(n / columns), 1));
-}
-
-std::int16_t GetMaxEq(std::int16_t columns) {
-    static constexpr std::array<std::int16_t, MostColumns> widths = {20,  35,  55,  75,  95,
-                                                                     110, 130, 137, 142, 148};
-    return widths.at(static_cast<std::size_t>(columns - 1));
 }
 
 } // namespace orvane

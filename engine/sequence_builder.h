@@ -2,7 +2,6 @@
 #pragma once
 
 #include "engine/list_settings.h"
-#include "platform/ms_flex_grid.h"
 #include "platform/platform.h"
 
 #include <cstdint>
@@ -14,9 +13,8 @@ namespace orvane {
 
 class SequenceBuilder {
   public:
-    SequenceBuilder(const ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
-                    Platform& desktop)
-        : settings_(settings), results_(results), groupNames_(groupNames), desktop_(desktop) {}
+    SequenceBuilder(const ListSettings& settings, ListResults& results, Platform& desktop)
+        : settings_(settings), results_(results), desktop_(desktop) {}
 
     /// Makes one block. On entry both arrays have one entry for each position of the block, their content is
     /// ignored, and `OffSet` is the number of subjects of the earlier blocks. On return both have one entry
@@ -31,8 +29,6 @@ class SequenceBuilder {
                           std::int16_t OffSet);
 
   private:
-    /// The names of the groups, the name of group g in slot g; slot 0 is empty.
-    [[nodiscard]] std::vector<std::string> GroupNames() const;
     void ShuffleUntilAccepted(std::vector<std::uint8_t>& groups);
     /// Tests one arrangement, `numbers` holding the group number of each position. Throws when no arrangement
     /// of this block can ever pass.
@@ -40,15 +36,10 @@ class SequenceBuilder {
 
     const ListSettings& settings_;
     ListResults& results_;
-    const MSFlexGrid& groupNames_;
     Platform& desktop_;
 };
 
 /// `n` raised to a multiple of `columns`, in checked 16-bit arithmetic.
 std::int16_t RaiseToLimit(std::int16_t n, std::int16_t columns);
-
-/// The width in characters of the ruled line under a block of the text and clipboard reports, by the number
-/// of columns, 1 to 10.
-std::int16_t GetMaxEq(std::int16_t columns);
 
 } // namespace orvane

@@ -10,46 +10,49 @@
 namespace orvane {
 namespace {
 
-constexpr std::int16_t LettersInAlphabet = 26;
-constexpr std::int16_t MixedCharacters = 36;
-
 /// A code that is already used is drawn again. Even when a single free code is left, it is drawn more often
 /// than once in 200,000 draws. So many draws without a free code mean that the source is not random.
 constexpr int MostDrawsForOneCode = 5'000'000;
 
-const AlphaNumTable& AlphaNumChar() {
-    static const AlphaNumTable table = BuildAlphaNumChar();
-    return table;
-}
+constexpr std::string_view Digits = AlphaNumChar.substr(0, 10);
+constexpr std::string_view Letters = AlphaNumChar.substr(10);
 
-std::int16_t BaseOf(std::int32_t alphaNum) {
+/// The characters of an alphabet, the one for zero first.
+std::string_view CharactersOf(std::int32_t alphaNum) {
     switch (alphaNum) {
     case Alpha:
-        return LettersInAlphabet;
+        return Letters;
     case Numeric:
-        return 10;
+        return Digits;
     default:
-        return MixedCharacters;
+        return AlphaNumChar;
     }
 }
 
-std::string PadLeft(const std::string& text, std::int16_t length, char with) {
+std::string PadLeft(std::string text, std::int16_t length, char with) {
     const auto width = static_cast<std::size_t>(std::max<std::int16_t>(length, 0));
-    if (text.size() > width)
-        throw Failure("A subject code needs more characters than the code length " + std::to_string(length) +
-                          " gives. Please choose longer codes.",
-                      failure_number::InvalidArgument, "CreateCodeArr");
-    return std::string(width - text.size(), with) + text;
+    if (text.size() < width)
+        text.insert(0, width - text.size(), with);
+    return text;
+}
+
+/// `n` in the number system of these digits, filled up with the digit for zero.
+std::string Number(std::int16_t n, std::string_view digits, std::int16_t length) {
+    const auto base = static_cast<std::int16_t>(digits.size());
+    std::string code;
+    for (; n != 0; n = static_cast<std::int16_t>(n / base))
+        code.insert(code.begin(), digits[static_cast<std::size_t>(n % base)]);
+    return PadLeft(code, length, digits.front());
 }
 
 std::string SequentialCode(std::int16_t position, const ListSettings& settings) {
     switch (settings.CodeAlphaNum) {
     case Alpha:
-        return ZeroPad(ConvertToABC(position, settings.CodeLength), settings.CodeLength);
-    case Mixed:
-        return ZeroPad(ConvertToABC123(position, settings.CodeLength), settings.CodeLength);
-    default:
+        return ConvertToABC(position, settings.CodeLength);
+    case Numeric:
         return ZeroPad(std::to_string(position), settings.CodeLength);
+    default:
+        return ConvertToABC123(position, settings.CodeLength);
     }
 }
 
@@ -67,22 +70,11 @@ std::string NewRandomCode(const ListSettings& settings, std::unordered_set<std::
 
 } // namespace
 
-AlphaNumTable BuildAlphaNumChar() {
-    constexpr int digits = 10;
-    constexpr int beforeLetterA = 'A' - digits;
-    AlphaNumTable table{};
-    for (int i = 0; i < MixedCharacters; ++i)
-        table.at(static_cast<std::size_t>(i)) = static_cast<char>(i < digits ? '0' + i : beforeLetterA + i);
-    return table;
-}
-
 void CreateCodeArr(const ListSettings& settings, ListResults& results, UniformSource& random,
                    TimeOfDay& clock) {
     const std::int16_t listSize = SumArr(results.BlockSizes);
-    if (listSize > CodesAvailable(settings.CodeAlphaNum, settings.CodeSeqRandom, settings.CodeLength))
-        throw Failure("Code length " + std::to_string(settings.CodeLength) + " is too short for a list of " +
-                          std::to_string(listSize) + " subjects",
-                      failure_number::TooLarge, "CreateCodeArr");
+    if (const auto refusal = CodesRefusal(settings, listSize))
+        throw Failure(*refusal, failure_number::TooLarge, "CreateCodeArr");
 
     std::vector<std::string> codes;
     codes.reserve(static_cast<std::size_t>(listSize));
@@ -97,16 +89,17 @@ void CreateCodeArr(const ListSettings& settings, ListResults& results, UniformSo
     results.CodeArr = std::move(codes);
 }
 
-std::int32_t CodesAvailable(std::int32_t alphaNum, std::int32_t seqRandom, std::int16_t length) {
-    if (length < 1)
-        return 0; // a code is never empty
-    const std::int32_t base = BaseOf(alphaNum);
-    std::int32_t codes = 1;
-    for (std::int16_t i = 0; i < length && codes <= LargestList; ++i)
+std::optional<std::string> CodesRefusal(const ListSettings& settings, std::int32_t subjects) {
+    const auto base = static_cast<std::int32_t>(CharactersOf(settings.CodeAlphaNum).size());
+    std::int32_t codes = settings.CodeLength < 1 ? 0 : 1; // a code is never empty
+    for (std::int16_t i = 0; i < settings.CodeLength && codes <= LargestList; ++i)
         codes *= base;
-    if (seqRandom != Random)
+    if (settings.CodeSeqRandom != Random)
         --codes;
-    return std::min(codes, LargestList + 1);
+    if (subjects <= codes)
+        return std::nullopt;
+    return "code length " + std::to_string(settings.CodeLength) + " is too short for a list of " +
+           std::to_string(subjects) + " subjects, please choose longer codes or a smaller sample size";
 }
 
 std::string ZeroPad(const std::string& S, std::int16_t L) {
@@ -114,36 +107,21 @@ std::string ZeroPad(const std::string& S, std::int16_t L) {
 }
 
 std::string ConvertToABC(std::int16_t n, std::int16_t length) {
-    std::string code;
-    for (; n != 0; n = static_cast<std::int16_t>(n / LettersInAlphabet))
-        code.insert(code.begin(), static_cast<char>('A' + n % LettersInAlphabet));
-    return PadLeft(code, length, 'A');
+    return Number(n, Letters, length);
 }
 
 std::string ConvertToABC123(std::int16_t n, std::int16_t length) {
-    std::string code;
-    for (; n != 0; n = static_cast<std::int16_t>(n / MixedCharacters))
-        code.insert(code.begin(), AlphaNumChar().at(static_cast<std::size_t>(n % MixedCharacters)));
-    return PadLeft(code, length, '0');
+    return Number(n, AlphaNumChar, length);
 }
 
 std::string MakeRandomCode(std::int32_t AlphaNum, std::int16_t Length, UniformSource& random,
                            TimeOfDay& clock) {
     random.UniformReseed(clock.SecondsSinceMidnight());
+    const std::string_view characters = CharactersOf(AlphaNum);
+    const auto last = static_cast<std::int16_t>(characters.size() - 1);
     std::string code;
-    for (std::int16_t i = 0; i < Length; ++i) {
-        switch (AlphaNum) {
-        case Alpha:
-            code += static_cast<char>(DrawRandomInt(random, 'A', 'Z'));
-            break;
-        case Numeric:
-            code += static_cast<char>(DrawRandomInt(random, '0', '9'));
-            break;
-        default:
-            code +=
-                AlphaNumChar().at(static_cast<std::size_t>(DrawRandomInt(random, 0, MixedCharacters - 1)));
-        }
-    }
+    for (std::int16_t i = 0; i < Length; ++i)
+        code += characters[static_cast<std::size_t>(DrawRandomInt(random, 0, last))];
     return code;
 }
 

@@ -6,29 +6,31 @@
 #include "platform/uniform_source.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace orvane {
 
-/// "0" to "9", then "A" to "Z".
-AlphaNumTable BuildAlphaNumChar();
+/// The characters of mixed codes: "0" to "9", then "A" to "Z".
+inline constexpr std::string_view AlphaNumChar = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 
 /// Fills results.CodeArr with one code of settings.CodeLength characters for each position of
 /// results.BlockSizes, no two alike. Random codes reseed the source once an attempt at a code.
-/// Throws a TooLarge failure, CodeArr untouched, when the list needs more codes than the length gives, and an
-/// Overflow failure for a list above LargestList.
+/// Throws a TooLarge failure, CodeArr untouched, for a list that CodesRefusal refuses, and an Overflow
+/// failure for a list above LargestList.
 void CreateCodeArr(const ListSettings& settings, ListResults& results, UniformSource& random,
                    TimeOfDay& clock);
 
-/// How many different codes of `length` characters the settings allow: base to the power of length, less 1
-/// for sequential codes, which start at 1; LargestList + 1 stands for any number above LargestList.
-std::int32_t CodesAvailable(std::int32_t alphaNum, std::int32_t seqRandom, std::int16_t length);
+/// Why a list of so many subjects cannot have codes of settings.CodeLength characters, as a message for the
+/// user; nothing when it can. There are base to the power of the length random codes, and one less that are
+/// sequential, because these start at 1.
+std::optional<std::string> CodesRefusal(const ListSettings& settings, std::int32_t subjects);
 
-/// `S` with "0" added on the left up to `L` characters; a longer S is an InvalidArgument failure.
+/// `S` with "0" added on the left up to `L` characters; a longer S stays as it is.
 std::string ZeroPad(const std::string& S, std::int16_t L);
 
-/// `n` in base 26 with the digits "A" to "Z", filled up on the left with "A" to `length` characters. A number
-/// that needs more digits is an InvalidArgument failure.
+/// `n` in base 26 with the digits "A" to "Z", filled up on the left with "A" to `length` characters.
 /// Requires: n at least 0.
 std::string ConvertToABC(std::int16_t n, std::int16_t length);
 

@@ -91,7 +91,11 @@ FlexGridWidget::FlexGridWidget(QWidget* parent) : QTableWidget(parent) {
     cells.setPixelSize(FontPixels);
     setFont(cells);
     setItemDelegate(new CellPainter(*this));
-    DrawPlainFrame();
+    // The style's own frame loses its top and bottom lines on screens with a fractional scale factor.
+    QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, colours.color(QPalette::Dark));
+    setPalette(colours);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
     viewport()->setBackgroundRole(QPalette::Button);
     setShowGrid(false);
     setWordWrap(false);
@@ -105,14 +109,6 @@ FlexGridWidget::FlexGridWidget(QWidget* parent) : QTableWidget(parent) {
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2);
-}
-
-/// The style's own frame loses its top and bottom lines on screens with a fractional scale factor.
-void FlexGridWidget::DrawPlainFrame() {
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, colours.color(QPalette::Dark));
-    setPalette(colours);
-    setFrameStyle(QFrame::Box | QFrame::Plain);
 }
 
 void FlexGridWidget::SetRows(std::int16_t rows) {
@@ -150,13 +146,12 @@ void FlexGridWidget::SelectCell(std::int16_t row, std::int16_t col) {
     row_ = row;
     col_ = col;
     ShowCurrentCell();
-    if (rowColChange_)
-        rowColChange_();
+    Q_EMIT RowColChange();
 }
 
 void FlexGridWidget::PickRow(int row) {
     const int nearest = std::clamp(row, 0, rowCount() - 1);
-    guard_([this, nearest] { SelectCell(static_cast<std::int16_t>(nearest), PickedColumn); });
+    SelectCell(static_cast<std::int16_t>(nearest), PickedColumn);
 }
 
 void FlexGridWidget::ShowCurrentCell() {
@@ -215,8 +210,8 @@ void FlexGridWidget::mouseMoveEvent(QMouseEvent* /*event*/) {
 void FlexGridWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !std::exchange(pressed_, false))
         return;
-    if (click_ && viewport()->rect().contains(event->position().toPoint()))
-        guard_(click_);
+    if (viewport()->rect().contains(event->position().toPoint()))
+        Q_EMIT Click();
 }
 
 } // namespace orvane

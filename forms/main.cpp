@@ -22,6 +22,8 @@
 #include <QApplication>
 #include <QDir>
 
+#include <cstdlib>
+
 namespace {
 
 using namespace orvane;
@@ -35,7 +37,7 @@ class Application : public QApplication {
         setDesktopFileName("orvane");
         setWindowIcon(ApplicationIcon());
         setQuitOnLastWindowClosed(true);
-        ending_.BeginAt(signals_.Descriptor());
+        Ending.BeginAt(Signals.Descriptor());
     }
 
     /// Reports an exception that no guard of a window has caught.
@@ -43,26 +45,47 @@ class Application : public QApplication {
         try {
             return QApplication::notify(receiver, event);
         } catch (...) {
-            guard_.ReportCaught();
+            ReportCaught(Messages, Pointer);
             return false;
         }
     }
 
-    QtEnding& Ending() { return ending_; }
-    QtInputDrain& Input() { return input_; }
-    MessageBox& Messages() { return messages_; }
-    MousePointer& Pointer() { return pointer_; }
-
-  private:
-    EndSignals signals_;
-    QtEnding ending_;
-    QtSecondPress secondPress_;
-    QtFocusMark focusMark_;
-    QtInputDrain input_;
-    QtMessageBox messages_{input_, ending_};
-    QtMousePointer pointer_{input_};
-    EventGuard guard_{messages_, pointer_};
+    EndSignals Signals;
+    QtEnding Ending;
+    QtSecondPress SecondPress;
+    QtFocusMark FocusMark;
+    QtInputDrain Input;
+    QtMessageBox Messages{Input, Ending};
+    QtMousePointer Pointer{Input};
 };
+
+/// Runs the program from the opening of the main window to its end.
+int Run(Application& application) {
+    LinuxFiles files;
+    const CodePage page = DesktopCodePage();
+    LinuxClock clock;
+    LinuxEntropy entropy;
+    RandomSource random(entropy);
+    GioShell shell;
+    QtClipboard clipboard(page);
+    LinuxRegistry registry;
+    Platform desktop{application.Messages,
+                     application.Pointer,
+                     files,
+                     page,
+                     clock,
+                     random,
+                     shell,
+                     clipboard,
+                     registry,
+                     ProgramDirectory(),
+                     QDir::separator().toLatin1()};
+    PromptFolder folder;
+    QtCommonDialog CMDialog(folder, application.Input, application.Ending);
+    QtCommonDialog outputDialog(folder, application.Input, application.Ending);
+    const auto form = MakeMainForm(desktop, CMDialog, outputDialog);
+    return QApplication::exec();
+}
 
 } // namespace
 
@@ -72,22 +95,10 @@ int main() {
     char* arguments[] = {name, nullptr};
     int count = 1;
     Application application(count, arguments);
-    LinuxFiles files;
-    const CodePage page = DesktopCodePage();
-    LinuxClock clock;
-    LinuxEntropy entropy;
-    RandomSource random(entropy);
-    GioShell shell;
-    QtClipboard board(page);
-    LinuxRegistry keys;
-    Platform desktop{
-        application.Messages(), application.Pointer(),       files, page, clock, random, shell, board, keys,
-        ProgramDirectory(),     QDir::separator().toLatin1()};
-    PromptFolder folder;
-    QtCommonDialog CMDialog(folder, application.Input(), application.Ending());
-    QtCommonDialog outputDialog(folder, application.Input(), application.Ending());
-    MainForm form(desktop, CMDialog, outputDialog);
-    // Runs inside the event loop, so that the loop ends even if the window is closed during Open.
-    QMetaObject::invokeMethod(&form, &MainForm::Open, Qt::QueuedConnection);
-    return QApplication::exec();
+    try {
+        return Run(application);
+    } catch (...) {
+        ReportCaught(application.Messages, application.Pointer);
+        return EXIT_FAILURE;
+    }
 }

@@ -1,25 +1,24 @@
 #include "forms/main_form.h"
 
-#include "engine/generation.h"
 #include "engine/list_settings.h"
 #include "engine/numbers.h"
-#include "engine/sequence_builder.h"
 #include "forms/about_form.h"
 #include "forms/application_icon.h"
 #include "forms/default_button.h"
+#include "forms/event_guard.h"
 #include "forms/form_look.h"
-#include "forms/group_name_grid.h"
-#include "forms/main_form_controls.h"
+#include "forms/group_name_editor.h"
 #include "forms/options_form.h"
 #include "forms/output_form.h"
-#include "output/glb_util.h"
-#include "output/output_channels.h"
-#include "output/report_context.h"
+#include "lists/file_channel.h"
+#include "lists/generation.h"
+#include "lists/glb_util.h"
 #include "settings/settings_file.h"
 #include "settings/settings_workflow.h"
 #include "ui_main_form.h"
 
 #include <QCloseEvent>
+#include <QTimer>
 
 #include <utility>
 
@@ -39,126 +38,128 @@ constexpr std::int16_t OptionItem = 1;
 constexpr std::int16_t ContentItem = 0;
 constexpr std::int16_t AboutItem = 2;
 
-} // namespace
+/// The controls, made before the other members of the window refer to them.
+struct Controls : Ui::Form1 {
+    explicit Controls(QMainWindow& window) {
+        UseFormFont(window);
+        setupUi(&window);
+    }
+};
 
-/// The objects that do the work of the window, connected to each other and to its controls. Their
-/// constructors only store references, and none is used before the window opens. So the order of the members
-/// does not matter.
-struct MainForm::Parts {
-    Ui::Form1& ui;
-    EventGuard& guard;
-    Platform& desktop;
-    CommonDialog& CMDialog;
-    CommonDialog& outputDialog;
+class MainForm : public QMainWindow, private MainControls {
+  public:
+    MainForm(Platform& desktop, CommonDialog& CMDialog, CommonDialog& outputDialog);
 
-    ListSettings settings{};
-    ListResults results{};
-    SampSizeTxtBox sampleSize{*ui.SampSizeTxt, guard};
-    TempTxtBox nameBox{*ui.TempTxt, guard};
-    LoadedControls controls{*ui.nogHsb, *ui.SampSizeTxt, guard};
-    OutputItems outputItems{{ui.mnuOutput_0, ui.mnuOutput_1, ui.mnuOutput_2}};
-    GroupNameEditor groupNames{settings, *ui.GroupNameGrid, nameBox};
-    SequenceBuilder builder{settings, results, *ui.GroupNameGrid, desktop};
-    OptionsForm options{settings, results, *ui.GroupNameGrid, desktop};
-    OutputForm output{desktop, outputDialog};
-    ReportContext context{settings, results, *ui.GroupNameGrid, builder, desktop};
-    ListChannels channels{context, CMDialog, output};
-    Generation generation{settings, results, options, channels, sampleSize, desktop};
-    SettingsFile settingsFile{settings, *ui.GroupNameGrid, controls, outputItems, desktop};
-    SettingsWorkflow workflow{settingsFile, CMDialog, desktop};
+  protected:
+    /// Saves the settings for the next run if SaveExitChk is checked. A close request that arrives while a
+    /// handler is running is carried out when the handler has returned.
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void Form_Load();
+    void Form_Unload();
+    void nogHsb_Change();
+    void SampSizeTxt_Change();
+    void mnuFile_Click(std::int16_t Index);
+    void mnuView_Click(std::int16_t Index);
+    void mnuHelp_Click(std::int16_t Index);
+
+    void SetNogHsb(std::int16_t position) override;
+    void SetSampSizeTxt(const std::string& text) override { ui_.SampSizeTxt->SetText(text); }
+    void mnuOutput_Click(std::int16_t Index) override;
+
+    void LayOut();
+    void ConnectControls();
+    void ConnectMenus();
+    void CheckOutputItem(std::int32_t Index);
+    void RefuseSampleSize();
+    void ShowOptions();
+    [[nodiscard]] std::intptr_t WindowHandle() const { return static_cast<std::intptr_t>(winId()); }
+
+    Platform& desktop_;
+    CommonDialog& CMDialog_;
+    EventGuard guard_{*this, desktop_.Messages, desktop_.Pointer};
+    Controls ui_{*this};
+    QTimer opening_;
+    bool closeWhenDone_ = false; ///< close when the running handler has returned
+    bool unloaded_ = false;
+
+    ListSettings settings_;
+    ListResults results_;
+    GroupNameEditor groupNames_{settings_, *ui_.GroupNameGrid, *ui_.TempTxt};
+    OptionsForm options_{settings_, results_, groupNames_, desktop_};
+    OutputForm output_;
+    ReportContext context_{settings_, results_, desktop_};
+    Generation generation_{context_, options_, CMDialog_, output_, [this] { RefuseSampleSize(); }};
+    SettingsFile settingsFile_{settings_, *ui_.GroupNameGrid, *this, desktop_};
+    SettingsWorkflow workflow_{settingsFile_, CMDialog_, desktop_};
 };
 
 MainForm::MainForm(Platform& desktop, CommonDialog& CMDialog, CommonDialog& outputDialog)
-    : desktop_(desktop), CMDialog_(CMDialog), guard_(desktop.Messages, desktop.Pointer),
-      ui_(std::make_unique<Ui::Form1>()) {
-    UseFormFont(*this);
-    ui_->setupUi(this);
-    // NOLINTNEXTLINE(modernize-make-unique): an aggregate takes braces
-    parts_.reset(new Parts{*ui_, guard_, desktop, CMDialog, outputDialog});
+    : desktop_(desktop), CMDialog_(CMDialog), output_(desktop, outputDialog) {
+    guard_.WhenIdle([this] {
+        if (std::exchange(closeWhenDone_, false))
+            close();
+    });
     LayOut();
     ConnectControls();
     ConnectMenus();
-    new DefaultButton(*ui_->cmdGenerate);
+    new DefaultButton(*ui_.cmdGenerate);
+    // Inside the event loop, so that the loop ends even if the window is closed while it opens.
+    guard_.On(&opening_, &QTimer::timeout, [this] { Form_Load(); });
+    opening_.setSingleShot(true);
+    opening_.start(0);
 }
-
-MainForm::~MainForm() = default;
 
 void MainForm::LayOut() {
     setWindowIcon(ApplicationIcon());
-    const int menuHeight = ui_->menuBar->isNativeMenuBar() ? 0 : ui_->menuBar->sizeHint().height();
+    const int menuHeight = ui_.menuBar->isNativeMenuBar() ? 0 : ui_.menuBar->sizeHint().height();
     resize(ClientWidth, ClientHeight + menuHeight);
     CentreOnScreen(*this, *this);
-    ui_->nogHsb->setFocus();
+    ui_.nogHsb->setFocus();
 }
 
 void MainForm::ConnectControls() {
-    GroupNameEditor& names = parts_->groupNames;
-    FlexGridWidget& grid = *ui_->GroupNameGrid;
-    On(ui_->nogHsb, &QScrollBar::valueChanged, [this] { nogHsb_Change(); });
-    On(ui_->SampSizeTxt, &QLineEdit::textChanged, [this] { SampSizeTxt_Change(); });
-    On(ui_->TempTxt, &QLineEdit::textChanged, [&names] { names.TempTxt_Change(); });
-    grid.RunUserEventsIn([this](const std::function<void()>& event) { Handle(event); });
-    grid.OnRowColChange([&names] { names.GroupNameGrid_RowColChange(); });
-    grid.OnClick([&names] { names.GroupNameGrid_Click(); });
-    OnCommand(ui_->cmdGenerate, &QPushButton::clicked, [this] { cmdGenerate_Click(); });
+    guard_.On(ui_.nogHsb, &QScrollBar::valueChanged, [this] { nogHsb_Change(); });
+    guard_.On(ui_.SampSizeTxt, &QLineEdit::textChanged, [this] { SampSizeTxt_Change(); });
+    guard_.On(ui_.TempTxt, &QLineEdit::textChanged, [this] { groupNames_.TempTxt_Change(); });
+    guard_.On(ui_.GroupNameGrid, &FlexGridWidget::RowColChange,
+              [this] { groupNames_.GroupNameGrid_RowColChange(); });
+    guard_.On(ui_.GroupNameGrid, &FlexGridWidget::Click, [this] { groupNames_.GroupNameGrid_Click(); });
+    guard_.OnCommand(ui_.cmdGenerate, &QPushButton::clicked, [this] { generation_.cmdGenerate_Click(); });
 }
 
 void MainForm::ConnectMenus() {
     const auto chosen = &QAction::triggered;
-    OnCommand(ui_->mnuFile_0, chosen, [this] { mnuFile_Click(LoadSettingsItem); });
-    OnCommand(ui_->mnuFile_1, chosen, [this] { mnuFile_Click(SaveSettingsItem); });
-    OnCommand(ui_->mnuFile_3, chosen, [this] { mnuFile_Click(ExitItem); });
-    OnCommand(ui_->mnuView_0, chosen, [this] { mnuView_Click(RandomFileItem); });
-    OnCommand(ui_->mnuView_1, chosen, [this] { mnuView_Click(OptionItem); });
-    OnCommand(ui_->mnuSequence_0, &QMenu::aboutToShow, [this] { mnuSequence_Click(OutputItem); });
-    OnCommand(ui_->mnuSequence_2, chosen, [this] { mnuSequence_Click(GenerateItem); });
-    OnCommand(ui_->mnuOutput_0, chosen, [this] { mnuOutput_Click(ToFile); });
-    OnCommand(ui_->mnuOutput_1, chosen, [this] { mnuOutput_Click(ToWindow); });
-    OnCommand(ui_->mnuOutput_2, chosen, [this] { mnuOutput_Click(ToClipboard); });
-    OnCommand(ui_->mnuHelp_0, chosen, [this] { mnuHelp_Click(ContentItem); });
-    OnCommand(ui_->mnuHelp_2, chosen, [this] { mnuHelp_Click(AboutItem); });
-}
-
-template <class Sender, class Signal, class Handler>
-void MainForm::On(Sender* sender, Signal signal, Handler handler) {
-    connect(sender, signal, this, [this, handler] { Handle(handler); });
-}
-
-template <class Sender, class Signal, class Handler>
-void MainForm::OnCommand(Sender* sender, Signal signal, Handler handler) {
-    connect(sender, signal, this, [this, handler] { Command(handler); });
-}
-
-/// Runs the handler of an event, then closes the window if a close request arrived meanwhile.
-void MainForm::Handle(const std::function<void()>& handler) {
-    guard_.Handle(handler);
-    if (!guard_.IsHandling() && std::exchange(closeWhenDone_, false))
-        close();
-}
-
-/// Runs a command unless a handler is running: assistive programs can trigger controls behind a modal window.
-void MainForm::Command(const std::function<void()>& command) {
-    if (guard_.IsHandling())
-        parts_->outputItems.Check(parts_->settings.OutputOption);
-    else
-        Handle(command);
-}
-
-void MainForm::Open() {
-    Handle([this] { Form_Load(); });
+    guard_.OnCommand(ui_.mnuFile_0, chosen, [this] { mnuFile_Click(LoadSettingsItem); });
+    guard_.OnCommand(ui_.mnuFile_1, chosen, [this] { mnuFile_Click(SaveSettingsItem); });
+    guard_.OnCommand(ui_.mnuFile_3, chosen, [this] { mnuFile_Click(ExitItem); });
+    guard_.OnCommand(ui_.mnuView_0, chosen, [this] { mnuView_Click(RandomFileItem); });
+    guard_.OnCommand(ui_.mnuView_1, chosen, [this] { mnuView_Click(OptionItem); });
+    guard_.OnCommand(ui_.mnuSequence_0, &QMenu::aboutToShow,
+                     [this] { generation_.mnuSequence_Click(OutputItem); });
+    guard_.OnCommand(ui_.mnuSequence_2, chosen, [this] { generation_.mnuSequence_Click(GenerateItem); });
+    guard_.OnCommand(ui_.mnuOutput_0, chosen, [this] { mnuOutput_Click(ToFile); });
+    guard_.OnCommand(ui_.mnuOutput_1, chosen, [this] { mnuOutput_Click(ToWindow); });
+    guard_.OnCommand(ui_.mnuOutput_2, chosen, [this] { mnuOutput_Click(ToClipboard); });
+    // The toolkit has changed the mark of the item, even if its command was not carried out.
+    for (const QAction* item : ui_.mnuSequence_0->actions())
+        guard_.On(item, chosen, [this] { CheckOutputItem(settings_.OutputOption); });
+    guard_.OnCommand(ui_.mnuHelp_0, chosen, [this] { mnuHelp_Click(ContentItem); });
+    guard_.OnCommand(ui_.mnuHelp_2, chosen, [this] { mnuHelp_Click(AboutItem); });
 }
 
 void MainForm::Form_Load() {
-    guard_.Calling([this] { show(); });
-    parts_->context.MainWindow = WindowHandle();
+    show();
+    context_.MainWindow = WindowHandle();
     CMDialog_.Flags = CommonDialog::OverwritePrompt;
-    parts_->groupNames.NumberGroups(parts_->settings.NumberOfGroups);
-    parts_->workflow.AtStart();
+    groupNames_.NumberGroups(settings_.NumberOfGroups);
+    workflow_.AtStart();
 }
 
 void MainForm::Form_Unload() {
-    if (ui_->SaveExitChk->isChecked())
-        parts_->workflow.AtEnd();
+    if (ui_.SaveExitChk->isChecked())
+        workflow_.AtEnd();
 }
 
 void MainForm::closeEvent(QCloseEvent* event) {
@@ -172,58 +173,75 @@ void MainForm::closeEvent(QCloseEvent* event) {
 }
 
 void MainForm::nogHsb_Change() {
-    const int groups = ui_->nogHsb->value();
-    ui_->nogLbl->setText(QString::number(groups));
-    parts_->settings.NumberOfGroups = static_cast<std::int16_t>(groups);
-    parts_->groupNames.SetGroups();
+    const int groups = ui_.nogHsb->value();
+    ui_.nogLbl->setText(QString::number(groups));
+    settings_.NumberOfGroups = static_cast<std::int16_t>(groups);
+    groupNames_.SetGroups();
 }
 
 void MainForm::SampSizeTxt_Change() {
-    parts_->settings.SampleSize = SampleSizeOf(ui_->SampSizeTxt->Text());
-    ui_->mnuView_1->setEnabled(parts_->settings.SampleSize != 0);
+    settings_.SampleSize = SampleSizeOf(ui_.SampSizeTxt->Text());
+    ui_.mnuView_1->setEnabled(settings_.SampleSize != 0);
 }
 
-void MainForm::cmdGenerate_Click() {
-    parts_->generation.cmdGenerate_Click();
+/// The toolkit's own bar would use the nearest position for one outside its range.
+void MainForm::SetNogHsb(std::int16_t position) {
+    const QScrollBar& bar = *ui_.nogHsb;
+    if (position < bar.minimum() || position > bar.maximum())
+        throw Failure("The number of groups cannot be " + std::to_string(position) + ": it must be from " +
+                          std::to_string(bar.minimum()) + " to " + std::to_string(bar.maximum()),
+                      failure_number::OutOfRange, "nogHsb");
+    ui_.nogHsb->setValue(position);
+}
+
+void MainForm::mnuOutput_Click(std::int16_t Index) {
+    CheckOutputItem(Index);
+    if (Index < ToFile || Index > ToClipboard)
+        throw Failure("There is no output channel " + std::to_string(Index), failure_number::OutOfRange,
+                      "mnuOutput_Click");
+    settings_.OutputOption = Index;
+}
+
+/// Checks this item of the submenu alone; none if there is no such item.
+void MainForm::CheckOutputItem(std::int32_t Index) {
+    const QList<QAction*> items = ui_.mnuSequence_0->actions();
+    for (qsizetype item = 0; item < items.size(); ++item)
+        items.at(item)->setChecked(item == Index);
 }
 
 void MainForm::mnuFile_Click(std::int16_t Index) {
     switch (Index) {
     case LoadSettingsItem:
-        return parts_->workflow.LoadSettings();
+        return workflow_.LoadSettings();
     case SaveSettingsItem:
-        return parts_->workflow.SaveSettingsAs();
+        return workflow_.SaveSettingsAs();
     case ExitItem:
         return static_cast<void>(close()); // takes effect when this handler has returned
-    default:
-        break;
     }
 }
 
 void MainForm::mnuView_Click(std::int16_t Index) {
     switch (Index) {
     case RandomFileItem:
-        return parts_->channels.DisplayRandomFile();
+        return DisplayRandomFile(context_, CMDialog_, output_);
     case OptionItem:
         return ShowOptions();
-    default:
-        break;
     }
 }
 
 void MainForm::ShowOptions() {
-    if (parts_->settings.SampleSize <= 0)
-        return RefuseSampleSize(parts_->sampleSize, desktop_.Messages);
-    parts_->options.ShowModal();
+    if (settings_.SampleSize <= 0)
+        return RefuseSampleSize();
+    options_.ShowModal();
     desktop_.Pointer.ShowNormal();
 }
 
-void MainForm::mnuSequence_Click(std::int16_t Index) {
-    parts_->generation.mnuSequence_Click(Index);
-}
-
-void MainForm::mnuOutput_Click(std::int16_t Index) {
-    orvane::mnuOutput_Click(Index, parts_->outputItems, parts_->settings);
+/// Says why the sample size cannot be used.
+void MainForm::RefuseSampleSize() {
+    desktop_.Messages.Show(IsAboveSampleSizes(ui_.SampSizeTxt->Text())
+                               ? "the sample size can be at most " + std::to_string(LargestList)
+                               : "please specify the sample size");
+    ui_.SampSizeTxt->TakeFocus();
 }
 
 void MainForm::mnuHelp_Click(std::int16_t Index) {
@@ -232,10 +250,15 @@ void MainForm::mnuHelp_Click(std::int16_t Index) {
         return OpenInBrowser(desktop_.BesideProgram("randomization.htm"), WindowHandle(), desktop_.Shell,
                              desktop_.Messages);
     case AboutItem:
-        return AboutForm(desktop_, this).ShowModal();
-    default:
-        break;
+        return ShowAboutForm(desktop_, *this);
     }
+}
+
+} // namespace
+
+std::unique_ptr<QMainWindow> MakeMainForm(Platform& desktop, CommonDialog& CMDialog,
+                                          CommonDialog& outputDialog) {
+    return std::make_unique<MainForm>(desktop, CMDialog, outputDialog);
 }
 
 } // namespace orvane

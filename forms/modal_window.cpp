@@ -23,13 +23,20 @@ void PaintWhatWasCovered() {
 
 } // namespace
 
-ModalWindow::ModalWindow(Qt::WindowFlags flags) : QDialog(nullptr, flags) {
+ModalWindow::ModalWindow(Qt::WindowFlags flags, Platform& desktop, QWidget* owner)
+    : QDialog(owner, flags), desktop_(desktop), guard_(*this, desktop.Messages, desktop.Pointer) {
     UseFormFont(*this);
 }
 
 void ModalWindow::ShowModal() {
     const QWidget* const front = QApplication::activeWindow();
     CentreOnScreen(*this, front != nullptr ? *front : *this);
+    exec();
+    PaintWhatWasCovered();
+}
+
+void ModalWindow::ShowModalAt(QPoint place) {
+    move(place);
     exec();
     PaintWhatWasCovered();
 }

@@ -1,20 +1,28 @@
 // Base class of the modal windows.
 #pragma once
 
+#include "forms/event_guard.h"
+#include "platform/platform.h"
+
 #include <QDialog>
 
 namespace orvane {
 
-/// Each object is built, shown once and destroyed. It has no owner window.
+/// Each object is built, shown once and destroyed.
 class ModalWindow : public QDialog {
   public:
     /// Shows the window in the middle of the screen and returns when it has closed.
     void ShowModal();
+    /// The same with the upper left corner of the frame at `place`.
+    void ShowModalAt(QPoint place);
 
   protected:
     /// `flags` determine the buttons of the frame. Sets the text size of the forms, which controls that are
     /// created later inherit.
-    explicit ModalWindow(Qt::WindowFlags flags);
+    ModalWindow(Qt::WindowFlags flags, Platform& desktop, QWidget* owner = nullptr);
+
+    Platform& desktop_;
+    EventGuard guard_;
 };
 
 } // namespace orvane

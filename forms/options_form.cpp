@@ -2,13 +2,12 @@
 
 #include "engine/numbers.h"
 #include "forms/default_button.h"
-#include "forms/event_guard.h"
 #include "forms/line_box.h"
 #include "forms/modal_window.h"
-#include "forms/options_form_controls.h"
 #include "forms/step_bar.h"
 #include "options/option_properties.h"
 #include "options/option_validation.h"
+#include "options/options_controls.h"
 #include "ui_options_form.h"
 
 #include <QKeyEvent>
@@ -41,31 +40,40 @@ void MoveQuietly(QScrollBar& bar, int position) {
 }
 
 /// The window itself, built for each opening.
-class OptionsDialog : public ModalWindow {
+class OptionsDialog : public ModalWindow, private OptionsControls {
   public:
-    OptionsDialog(ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
+    OptionsDialog(ListSettings& settings, ListResults& results, const GroupNameEditor& groupNames,
                   Platform& desktop);
 
     void Form_Load();
     /// Esc and the close button of the frame.
     void reject() override {
-        Press([this] { buttons_.cmdCancel_Click(); });
+        guard_.Run([this] { buttons_.cmdCancel_Click(); });
     }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void cmdOK_Click();
     void ConnectControls();
-    template <class Sender, class Signal, class Handler>
-    void On(Sender* sender, Signal signal, Handler handler);
     template <class Handler>
     void OnSelected(const OptionGroup& group, Handler handler);
-    template <class Handler>
-    void Press(Handler handler);
-    void Select(const OptionGroup& group, std::int32_t option);
+    static void Select(const OptionGroup& group, std::int32_t option);
     void FocusBlockField();
     bool BlkOptTakesKey(QObject& control, QEvent& event);
+
+    void FocusEqBlockSizeTxt() override { Focus(*ui_.EqBlockSizeTxt); }
+    void FocusUnEqBlockSizeTxt() override { Focus(*ui_.UnEqBlockSizeTxt); }
+    void FocusTxtLevel() override { Focus(*ui_.txtLevel); }
+    [[nodiscard]] std::string LevelText() const override { return ui_.txtLevel->Text(); }
+    void SelectTab(std::int16_t tab) override { ui_.tbsOptions->setCurrentIndex(tab - 1); }
+    [[nodiscard]] bool TableBorderChecked() const override { return ui_.chkTableBorder->isChecked(); }
+    [[nodiscard]] std::int16_t CellSpacingPosition() const override {
+        return ToInt16(ui_.hsbCellSp->value());
+    }
+    void Close() override { done(Accepted); }
+    static void Focus(LineBox& field);
 
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers);
     void tbsOptions_Click() { ui_.picOptions->setCurrentIndex(ui_.tbsOptions->currentIndex()); }
@@ -81,10 +89,8 @@ class OptionsDialog : public ModalWindow {
     void txtLevel_Change() { settings_.SigLevel = LevelOf(ui_.txtLevel->Text()); }
 
     ListSettings& settings_;
-    MousePointer& pointer_;
-    EventGuard guard_;
+    const GroupNameEditor& groupNames_;
     Ui::frmOptions ui_{};
-    OptionsFormControls controls_{*this, ui_, guard_};
     OptionValidation buttons_;
     OptionGroup BlkOpt_;
     OptionGroup AlphaNumOpt_;
@@ -92,12 +98,12 @@ class OptionsDialog : public ModalWindow {
     bool Loading_ = false; ///< Form_Load is setting the controls
 };
 
-OptionsDialog::OptionsDialog(ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames,
+OptionsDialog::OptionsDialog(ListSettings& settings, ListResults& results, const GroupNameEditor& groupNames,
                              Platform& desktop)
     : ModalWindow(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                  Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint),
-      settings_(settings), pointer_(desktop.Pointer), guard_(desktop.Messages, desktop.Pointer),
-      buttons_(settings, results, groupNames, controls_, desktop) {
+                      Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint,
+                  desktop),
+      settings_(settings), groupNames_(groupNames), buttons_(settings, results, *this, desktop) {
     ui_.setupUi(this);
     for (const Tab& tab : Tabs)
         ui_.tbsOptions->setTabToolTip(ui_.tbsOptions->addTab(tab.caption), tab.toolTip);
@@ -114,26 +120,20 @@ OptionsDialog::OptionsDialog(ListSettings& settings, ListResults& results, const
 }
 
 void OptionsDialog::ConnectControls() {
-    On(ui_.tbsOptions, &QTabBar::currentChanged, [this] { tbsOptions_Click(); });
+    guard_.On(ui_.tbsOptions, &QTabBar::currentChanged, [this] { tbsOptions_Click(); });
     OnSelected(BlkOpt_, [this](std::int16_t Index) { BlkOpt_Click(Index); });
-    On(ui_.EqBlockSizeTxt, &QLineEdit::textChanged, [this] { EqBlockSizeTxt_Change(); });
-    On(ui_.UnEqBlockSizeTxt, &QLineEdit::textChanged, [this] { UnEqBlockSizeTxt_Change(); });
+    guard_.On(ui_.EqBlockSizeTxt, &QLineEdit::textChanged, [this] { EqBlockSizeTxt_Change(); });
+    guard_.On(ui_.UnEqBlockSizeTxt, &QLineEdit::textChanged, [this] { UnEqBlockSizeTxt_Change(); });
     OnSelected(AlphaNumOpt_, [this](std::int16_t Index) { AlphaNumOpt_Click(Index); });
     OnSelected(SeqRandOpt_, [this](std::int16_t Index) { SeqRandOpt_Click(Index); });
-    On(ui_.LenHsb, &QScrollBar::valueChanged, [this] { LenHsb_Change(); });
-    On(ui_.ColHsb, &QScrollBar::valueChanged, [this] { ColHsb_Change(); });
-    On(ui_.hsbCellSp, &QScrollBar::valueChanged, [this] { hsbCellSp_Change(); });
-    On(ui_.chkPerformRuns, &QCheckBox::toggled, [this] { chkPerformRuns_Click(); });
-    On(ui_.txtLevel, &QLineEdit::textChanged, [this] { txtLevel_Change(); });
-    connect(ui_.cmdOK, &QPushButton::clicked, this, [this] { Press([this] { buttons_.cmdOK_Click(); }); });
-    connect(ui_.cmdCancel, &QPushButton::clicked, this, [this] { reject(); });
-    connect(ui_.cmdApply, &QPushButton::clicked, this,
-            [this] { Press([this] { buttons_.cmdApply_Click(); }); });
-}
-
-template <class Sender, class Signal, class Handler>
-void OptionsDialog::On(Sender* sender, Signal signal, Handler handler) {
-    connect(sender, signal, this, [this, handler] { guard_.Handle(handler); });
+    guard_.On(ui_.LenHsb, &QScrollBar::valueChanged, [this] { LenHsb_Change(); });
+    guard_.On(ui_.ColHsb, &QScrollBar::valueChanged, [this] { ColHsb_Change(); });
+    guard_.On(ui_.hsbCellSp, &QScrollBar::valueChanged, [this] { hsbCellSp_Change(); });
+    guard_.On(ui_.chkPerformRuns, &QCheckBox::toggled, [this] { chkPerformRuns_Click(); });
+    guard_.On(ui_.txtLevel, &QLineEdit::textChanged, [this] { txtLevel_Change(); });
+    guard_.OnCommand(ui_.cmdOK, &QPushButton::clicked, [this] { cmdOK_Click(); });
+    guard_.OnCommand(ui_.cmdCancel, &QPushButton::clicked, [this] { buttons_.cmdCancel_Click(); });
+    guard_.OnCommand(ui_.cmdApply, &QPushButton::clicked, [this] { buttons_.cmdApply_Click(); });
 }
 
 template <class Handler>
@@ -147,29 +147,21 @@ void OptionsDialog::OnSelected(const OptionGroup& group, Handler handler) {
     }
 }
 
-/// Runs the handler of a button. A press after the window has closed, such as the second press of a double
-/// click, is ignored.
-template <class Handler>
-void OptionsDialog::Press(Handler handler) {
-    if (isVisible())
-        guard_.Handle(handler);
-}
-
 /// Selects an option. As after a click, the Tab key then stops only at the selected option.
 void OptionsDialog::Select(const OptionGroup& group, std::int32_t option) {
     QRadioButton* selected = group.at(static_cast<std::size_t>(option));
     for (QRadioButton* button : group)
         button->setFocusPolicy(button == selected ? Qt::StrongFocus : Qt::ClickFocus);
-    guard_.Calling([&] { selected->setChecked(true); });
+    selected->setChecked(true);
 }
 
 void OptionsDialog::Form_Load() {
     Loading_ = true;
-    guard_.Calling([&] { ui_.txtLevel->SetText(SevenDigits(settings_.SigLevel)); });
+    ui_.txtLevel->SetText(SevenDigits(settings_.SigLevel));
     txtLevel_Change(); // also when the text has not changed
     buttons_.TakeSnapshot();
     BringOptionsIntoRange(settings_);
-    guard_.Calling([&] { ui_.chkPerformRuns->setChecked(settings_.PerformRuns); });
+    ui_.chkPerformRuns->setChecked(settings_.PerformRuns);
     Select(AlphaNumOpt_, settings_.CodeAlphaNum);
     Select(SeqRandOpt_, settings_.CodeSeqRandom);
     Select(BlkOpt_, settings_.prBlockOption);
@@ -179,15 +171,15 @@ void OptionsDialog::Form_Load() {
     }
     MoveQuietly(*ui_.LenHsb, settings_.CodeLength);
     LenHsb_Change();
-    guard_.Calling([&] { ui_.EqBlockSizeTxt->SetText(std::string(settings_.prEqBlockSize)); });
-    guard_.Calling([&] { ui_.UnEqBlockSizeTxt->SetText(std::string(settings_.prUnEqBlockSize)); });
+    ui_.EqBlockSizeTxt->SetText(std::string(settings_.prEqBlockSize));
+    ui_.UnEqBlockSizeTxt->SetText(std::string(settings_.prUnEqBlockSize));
     Loading_ = false;
     MoveQuietly(*ui_.ColHsb, settings_.Columns);
     ColHsb_Change();
     ui_.chkTableBorder->setChecked(settings_.TableBorder);
     MoveQuietly(*ui_.hsbCellSp, settings_.CellSpacing);
     hsbCellSp_Change();
-    pointer_.ShowNormal();
+    desktop_.Pointer.ShowNormal();
 }
 
 bool OptionsDialog::eventFilter(QObject* watched, QEvent* event) {
@@ -206,7 +198,7 @@ bool OptionsDialog::BlkOptTakesKey(QObject& control, QEvent& event) {
     if (std::find(BlkOpt_.begin(), BlkOpt_.end(), &control) == BlkOpt_.end())
         return false;
     const std::int32_t before = settings_.prBlockOption;
-    guard_.Calling([&] { control.event(&event); });
+    control.event(&event);
     if (settings_.prBlockOption != before)
         FocusBlockField();
     return true;
@@ -217,8 +209,13 @@ bool OptionsDialog::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
     if (key != Qt::Key_Tab || modifiers != Qt::ControlModifier)
         return false;
     const int next = (ui_.tbsOptions->currentIndex() + 1) % ui_.tbsOptions->count();
-    guard_.Calling([&] { ui_.tbsOptions->setCurrentIndex(next); });
+    ui_.tbsOptions->setCurrentIndex(next);
     return true;
+}
+
+void OptionsDialog::cmdOK_Click() {
+    settings_.GroupNames = groupNames_.Names();
+    buttons_.cmdOK_Click();
 }
 
 void OptionsDialog::BlkOpt_Click(std::int16_t Index) {
@@ -232,9 +229,14 @@ void OptionsDialog::BlkOpt_Click(std::int16_t Index) {
 /// Does not move the focus if the selected option has no field.
 void OptionsDialog::FocusBlockField() {
     if (settings_.prBlockOption == EqualSize)
-        controls_.FocusEqBlockSizeTxt();
+        FocusEqBlockSizeTxt();
     else if (settings_.prBlockOption == RandomSizesOf)
-        controls_.FocusUnEqBlockSizeTxt();
+        FocusUnEqBlockSizeTxt();
+}
+
+void OptionsDialog::Focus(LineBox& field) {
+    if (field.isVisible() && field.isEnabled())
+        field.TakeFocus();
 }
 
 void OptionsDialog::LenHsb_Change() {

@@ -1,16 +1,17 @@
 // The options window. It changes the option values directly; Cancel restores the values from the opening.
 #pragma once
 
-#include "engine/generation.h"
 #include "engine/list_settings.h"
-#include "platform/ms_flex_grid.h"
+#include "forms/group_name_editor.h"
+#include "lists/generation.h"
 #include "platform/platform.h"
 
 namespace orvane {
 
 class OptionsForm : public OptionsWindow {
   public:
-    OptionsForm(ListSettings& settings, ListResults& results, const MSFlexGrid& groupNames, Platform& desktop)
+    OptionsForm(ListSettings& settings, ListResults& results, const GroupNameEditor& groupNames,
+                Platform& desktop)
         : settings_(settings), results_(results), groupNames_(groupNames), desktop_(desktop) {}
 
     /// Throws the failures of building the window, before it is shown. Failures while it is open are reported
@@ -21,7 +22,7 @@ class OptionsForm : public OptionsWindow {
   private:
     ListSettings& settings_;
     ListResults& results_;
-    const MSFlexGrid& groupNames_;
+    const GroupNameEditor& groupNames_;
     Platform& desktop_;
 };
 

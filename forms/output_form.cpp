@@ -1,6 +1,5 @@
 #include "forms/output_form.h"
 
-#include "forms/event_guard.h"
 #include "forms/modal_window.h"
 #include "forms/qt_text.h"
 #include "ui_output_form.h"
@@ -9,21 +8,9 @@
 #include <QTextDocument>
 #include <QTextOption>
 
-#include <string>
-
 namespace orvane {
 
 namespace {
-
-/// Collects the lines, because a text box recomputes its layout for each line added.
-class GatheredText : public TextBox {
-  public:
-    void AppendLine(const std::string& text) override { text_.append(text).push_back('\n'); }
-    [[nodiscard]] const std::string& Text() const { return text_; }
-
-  private:
-    std::string text_;
-};
 
 /// The window itself, built for each opening.
 class ListWindow : public ModalWindow {
@@ -39,18 +26,17 @@ class ListWindow : public ModalWindow {
     void SaveCmd_Click() { file_.SaveAs(); }
 
     ShownFile& file_;
-    EventGuard guard_;
     Ui::OutputFrm ui_{};
 };
 
 ListWindow::ListWindow(ShownFile& file, Platform& desktop)
     : ModalWindow(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
-                  Qt::WindowCloseButtonHint),
-      file_(file), guard_(desktop.Messages, desktop.Pointer) {
+                      Qt::WindowCloseButtonHint,
+                  desktop),
+      file_(file) {
     ui_.setupUi(this);
-    connect(ui_.CloseCmd, &QPushButton::clicked, this,
-            [this] { guard_.Handle([this] { CloseCmd_Click(); }); });
-    connect(ui_.SaveCmd, &QPushButton::clicked, this, [this] { guard_.Handle([this] { SaveCmd_Click(); }); });
+    guard_.OnCommand(ui_.CloseCmd, &QPushButton::clicked, [this] { CloseCmd_Click(); });
+    guard_.OnCommand(ui_.SaveCmd, &QPushButton::clicked, [this] { SaveCmd_Click(); });
     // The columns of a list stay in order also with names that are written from right to left.
     QTextOption leftToRight = ui_.OutputTxt->document()->defaultTextOption();
     leftToRight.setTextDirection(Qt::LeftToRight);
@@ -59,9 +45,7 @@ ListWindow::ListWindow(ShownFile& file, Platform& desktop)
 }
 
 void ListWindow::Form_Load() {
-    GatheredText text;
-    file_.ReadInto(text);
-    ui_.OutputTxt->setPlainText(ToQString(text.Text()));
+    ui_.OutputTxt->setPlainText(ToQString(file_.Read()));
 }
 
 /// Esc does not close this window, unlike the toolkit's other dialogs.

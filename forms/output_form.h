@@ -1,8 +1,8 @@
 // The window that shows a list: a new one from the window report, or a saved file.
 #pragma once
 
-#include "output/shown_file.h"
-#include "output/window_report.h"
+#include "lists/reports.h"
+#include "lists/shown_file.h"
 #include "platform/common_dialog.h"
 #include "platform/platform.h"
 

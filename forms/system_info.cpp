@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t BufferSize = 1024;
 
-/// The upper-case hexadecimal digits of each byte from the last to the first, none with a leading zero.
+/// The hexadecimal digits of each byte from the last to the first, none with a leading zero.
 std::string HexDigitsBackwards(const std::string& bytes) {
     std::string text;
     for (const char byte : std::string(bytes.rbegin(), bytes.rend())) {
@@ -32,10 +32,10 @@ std::string DecimalDigits(double number) {
 /// The full path of the tool, empty when none is known.
 std::string ToolPath(Platform& desktop) {
     std::string KeyVal;
-    if (GetKeyValue(desktop.Keys, HKEY_LOCAL_MACHINE_ROOT, R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)",
+    if (GetKeyValue(desktop.Registry, HKEY_LOCAL_MACHINE_ROOT, R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)",
                     "PATH", KeyVal))
         return KeyVal;
-    if (!GetKeyValue(desktop.Keys, HKEY_LOCAL_MACHINE_ROOT, R"(SOFTWARE\Microsoft\Shared Tools Location)",
+    if (!GetKeyValue(desktop.Registry, HKEY_LOCAL_MACHINE_ROOT, R"(SOFTWARE\Microsoft\Shared Tools Location)",
                      "MSINFO", KeyVal))
         return "";
     const std::string path = KeyVal + desktop.Separator + "MSINFO32.EXE";

@@ -2,8 +2,8 @@
 
 #include "engine/numbers.h"
 #include "engine/random_draws.h"
-#include "engine/text.h"
 #include "platform/failure.h"
+#include "platform/text.h"
 
 #include <algorithm>
 #include <limits>

@@ -25,25 +25,14 @@ class BlockSizeList {
     /// OutOfRange failure if the list contains no size; and what the random source throws.
     bool NotValid(const std::string& InpStr);
 
-    /// `S` without its spaces (U+0020); other white space stays.
-    static std::string RemoveSpaces(const std::string& S);
-
-    /// Whether every character of `S` is a digit, "-" or ",".
-    static bool ValidChars(const std::string& S);
-
-    /// Expands `S` into the listed sizes and draws BlockSizes from them. On a fault: shows a message, puts
-    /// the focus on the field, leaves BlockSizes unchanged and returns false.
-    /// Requires: `S` contains no spaces.
-    bool BuildArr(const std::string& S);
-
-    /// Sets `min` and `max` to the two ends of a range such as 12-16; both to 0 when `S` does not consist of
-    /// exactly two parts.
-    static void GetMinMax(const std::string& S, std::int16_t& min, std::int16_t& max);
-
   private:
+    static std::string RemoveSpaces(const std::string& S);
+    static bool ValidChars(const std::string& S);
+    bool BuildArr(const std::string& S);
     /// Appends the sizes to `pool`, whose slot 0 is not used. Returns false at the first item with the value
     /// 0.
     static bool ExpandItems(const std::string& S, std::vector<std::int16_t>& pool);
+    static void GetMinMax(const std::string& S, std::int16_t& min, std::int16_t& max);
     void TellFault(const std::string& message);
     void DrawBlocks(const std::vector<std::int16_t>& pool);
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "engine/list_settings.h"
-#include "platform/ms_flex_grid.h"
 
 #include <cstdint>
 #include <optional>
@@ -14,9 +13,9 @@ namespace orvane {
 
 /// Why a list of these blocks cannot be made with these settings, as a message for the user; nothing when it
 /// can be made.
-/// Requires: every slot of `blockSizes` from 1 on is above 0; slot 0 is not used.
+/// Requires: every slot of `blockSizes` from 1 on is above 0, and slot 0 is 0; there is a name for each
+/// group.
 std::optional<std::string> ListRefusal(const ListSettings& settings,
-                                       const std::vector<std::int16_t>& blockSizes,
-                                       const MSFlexGrid& groupNames);
+                                       const std::vector<std::int16_t>& blockSizes);
 
 } // namespace orvane

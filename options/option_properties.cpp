@@ -8,21 +8,15 @@
 
 namespace orvane {
 
-OptionSnapshot::OptionSnapshot(const ListSettings& settings)
-    : codeAlphaNum_(settings.CodeAlphaNum), codeSeqRandom_(settings.CodeSeqRandom),
-      codeLength_(settings.CodeLength), blockOption_(settings.prBlockOption),
-      eqBlockSize_(settings.prEqBlockSize), unEqBlockSize_(settings.prUnEqBlockSize),
-      performRuns_(settings.PerformRuns), sigLevel_(settings.SigLevel) {}
-
-void OptionSnapshot::Restore(ListSettings& settings) const {
-    settings.CodeAlphaNum = codeAlphaNum_;
-    settings.CodeSeqRandom = codeSeqRandom_;
-    settings.CodeLength = codeLength_;
-    settings.prBlockOption = blockOption_;
-    settings.prEqBlockSize = eqBlockSize_;
-    settings.prUnEqBlockSize = unEqBlockSize_;
-    settings.PerformRuns = performRuns_;
-    settings.SigLevel = sigLevel_;
+void RestoreOptions(ListSettings& settings, const ListSettings& snapshot) {
+    settings.CodeAlphaNum = snapshot.CodeAlphaNum;
+    settings.CodeSeqRandom = snapshot.CodeSeqRandom;
+    settings.CodeLength = snapshot.CodeLength;
+    settings.prBlockOption = snapshot.prBlockOption;
+    settings.prEqBlockSize = snapshot.prEqBlockSize;
+    settings.prUnEqBlockSize = snapshot.prUnEqBlockSize;
+    settings.PerformRuns = snapshot.PerformRuns;
+    settings.SigLevel = snapshot.SigLevel;
 }
 
 std::int16_t LowestCodeLength(std::int16_t sampleSize) {

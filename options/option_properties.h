@@ -1,5 +1,5 @@
-// The option values while the options window is open: the copy that Cancel restores, and the ranges of the
-// window's controls.
+// The option values while the options window is open: what Cancel restores, and the ranges of the window's
+// controls.
 #pragma once
 
 #include "engine/list_settings.h"
@@ -9,23 +9,9 @@
 
 namespace orvane {
 
-/// A copy of the eight values that Cancel restores. Columns, TableBorder and CellSpacing are not among them.
-class OptionSnapshot {
-  public:
-    OptionSnapshot() = default;
-    explicit OptionSnapshot(const ListSettings& settings);
-    void Restore(ListSettings& settings) const;
-
-  private:
-    std::int32_t codeAlphaNum_ = 0;
-    std::int32_t codeSeqRandom_ = 0;
-    std::int16_t codeLength_ = 0;
-    std::int32_t blockOption_ = 0;
-    std::string eqBlockSize_;
-    std::string unEqBlockSize_;
-    bool performRuns_ = false;
-    float sigLevel_ = 0;
-};
+/// Gives the eight values that Cancel restores the values of `snapshot`. Columns, TableBorder and CellSpacing
+/// are not among them.
+void RestoreOptions(ListSettings& settings, const ListSettings& snapshot);
 
 /// The smallest code length allowed for a sample size: its common logarithm, rounded to nearest, ties to
 /// even, plus 1; from 1 to 6.

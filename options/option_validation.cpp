@@ -5,7 +5,7 @@
 #include "options/list_refusal.h"
 
 #include <algorithm>
-#include <concepts>
+#include <cmath>
 #include <limits>
 #include <optional>
 
@@ -14,24 +14,15 @@ namespace orvane {
 namespace {
 
 constexpr std::int32_t LargestBlockSize = std::numeric_limits<std::int16_t>::max();
+constexpr double LargestNumber = std::numeric_limits<std::int32_t>::max();
 constexpr double HighestLevel = 0.3;
 constexpr std::int16_t StatisticsTab = 4;
-
-/// Whether `judge` returns true or throws. A failure of any kind counts as a fault of the field.
-template <std::predicate Judge>
-bool FindsFault(Judge&& judge) {
-    try {
-        return judge();
-    } catch (...) {
-        return true;
-    }
-}
 
 } // namespace
 
 bool OptionValidation::NotValidInputs() {
     results_.BlockSizes.assign(1, 0);
-    return BlocksRefused() || LevelRefused() || ListRefused();
+    return SampleSizeRefused() || BlocksRefused() || LevelRefused() || ListRefused();
 }
 
 bool OptionValidation::Refuse(const std::string& message, Focus focus) {
@@ -40,18 +31,28 @@ bool OptionValidation::Refuse(const std::string& message, Focus focus) {
     return true;
 }
 
+/// Assistive programs can change the sample size while this window is open.
+bool OptionValidation::SampleSizeRefused() {
+    if (settings_.SampleSize > 0)
+        return false;
+    desktop_.Messages.Show("please specify the sample size");
+    return true;
+}
+
 bool OptionValidation::BlocksRefused() {
     switch (settings_.prBlockOption) {
     case OnlyOneBlock:
         results_.BlockSizes.push_back(settings_.SampleSize);
         return false;
-    case EqualSize:
-        if (EqualSizeRefused())
+    case EqualSize: {
+        const double size = std::nearbyint(NumericValueOrInfinity(settings_.prEqBlockSize));
+        if (EqualSizeRefused(size))
             return true;
-        SetForEqualBlocks();
+        SetForEqualBlocks(ToInt16(size));
         return false;
+    }
     case RandomSizesOf:
-        return FindsFault([this] { return list_.NotValid(settings_.prUnEqBlockSize); }) &&
+        return ListHasFault() &&
                Refuse("please specify block sizes", &OptionsControls::FocusUnEqBlockSizeTxt);
     case RandomBlockSize:
         SetForRandomBlockSize();
@@ -61,27 +62,29 @@ bool OptionValidation::BlocksRefused() {
     }
 }
 
-bool OptionValidation::EqualSizeRefused() {
+bool OptionValidation::EqualSizeRefused(double size) {
     constexpr Focus field = &OptionsControls::FocusEqBlockSizeTxt;
-    const std::string& text = settings_.prEqBlockSize;
-    if (FindsFault([&] { return NumericValue(text) <= 0; }))
+    if (size <= 0 || std::isinf(size))
         return Refuse("please specify the block size", field);
-    if (FindsFault([&] { return ToInt32(NumericValue(text)) % settings_.NumberOfGroups != 0; }))
+    if (size > LargestNumber || static_cast<std::int32_t>(size) % settings_.NumberOfGroups != 0)
         return Refuse("Block size must be divisable by the number of groups", field);
-    const std::int32_t size = ToInt32(NumericValue(text));
-    if (size == 0)
-        return Refuse("please specify the block size", field);
     if (size > LargestBlockSize)
         return Refuse("the block size can be at most " + std::to_string(LargestBlockSize), field);
     return false;
 }
 
+/// A failure, such as a number that is too large or no entropy, counts as a fault of the list.
+bool OptionValidation::ListHasFault() {
+    try {
+        return list_.NotValid(settings_.prUnEqBlockSize);
+    } catch (const std::exception&) {
+        return true;
+    }
+}
+
 bool OptionValidation::LevelRefused() {
-    const bool fault = FindsFault([this] {
-        const double level = NumericValue(controls_.LevelText());
-        return !(level > 0 && level <= HighestLevel);
-    });
-    if (!fault)
+    const double level = NumericValueOrInfinity(controls_.LevelText());
+    if (level > 0 && level <= HighestLevel)
         return false;
     desktop_.Messages.Show("Significance level must be greater than 0 ad less than 0.35");
     controls_.SelectTab(StatisticsTab);
@@ -90,14 +93,13 @@ bool OptionValidation::LevelRefused() {
 }
 
 bool OptionValidation::ListRefused() {
-    const std::optional<std::string> message = ListRefusal(settings_, results_.BlockSizes, groupNames_);
+    const std::optional<std::string> message = ListRefusal(settings_, results_.BlockSizes);
     if (message)
         desktop_.Messages.Show(*message);
     return message.has_value();
 }
 
-void OptionValidation::SetForEqualBlocks() {
-    const std::int16_t size = ToInt16(NumericValue(settings_.prEqBlockSize));
+void OptionValidation::SetForEqualBlocks(std::int16_t size) {
     // Always one block more than the quotient, even if the division leaves no remainder.
     for (std::int32_t more = settings_.SampleSize / size; more >= 0; --more)
         results_.BlockSizes.push_back(size);
@@ -129,7 +131,7 @@ void OptionValidation::cmdOK_Click() {
 }
 
 void OptionValidation::cmdCancel_Click() {
-    snapshot_.Restore(settings_);
+    RestoreOptions(settings_, snapshot_);
     settings_.SelectedCmd = ClosedByCancel;
     controls_.Close();
 }

@@ -14,7 +14,12 @@ class Clipboard {
   public:
     virtual ~Clipboard() = default;
 
-    /// Allocates `bytes` bytes; returns 0 if that fails. `flags` 66: moveable, filled with zeros.
+    /// Flags of GlobalAlloc: a block that can be moved and is filled with zeros.
+    static constexpr std::uint32_t MoveableZeroedBlock = 66;
+    /// The format of plain text.
+    static constexpr std::uint32_t PlainText = 1;
+
+    /// Allocates `bytes` bytes; returns 0 if that fails.
     virtual GlobalHandle GlobalAlloc(std::uint32_t flags, std::size_t bytes) = 0;
     /// The address of the block; null if it cannot be locked.
     virtual char* GlobalLock(GlobalHandle block) = 0;
@@ -28,8 +33,7 @@ class Clipboard {
     /// Opens the clipboard for this program; returns 0 if that fails.
     virtual std::int32_t OpenClipboard() = 0;
     virtual void EmptyClipboard() = 0;
-    /// Returns 0 if the clipboard refuses the block; otherwise the clipboard owns it from now on. `format`
-    /// 1: plain text.
+    /// Returns 0 if the clipboard refuses the block; otherwise the clipboard owns it from now on.
     /// Requires: the clipboard is open.
     virtual GlobalHandle SetClipboardData(std::uint32_t format, GlobalHandle block) = 0;
     /// Returns 0 if the clipboard could not be closed.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <locale>
 #include <set>
 #include <utility>
 
@@ -15,66 +16,41 @@ namespace {
 /// Replaces a byte that is not part of a valid UTF-8 sequence.
 constexpr char32_t ReplacementCharacter = 0xFFFD;
 
-unsigned char Byte(std::string_view text, std::size_t index) {
-    return static_cast<unsigned char>(text[index]);
-}
-
 bool IsAscii(char c) {
     return static_cast<unsigned char>(c) < 0x80;
 }
 
-std::string Utf8(char32_t character) {
-    const auto tail = [character](unsigned shift) {
-        return static_cast<char>(0x80U | ((character >> shift) & 0x3FU));
-    };
-    if (character < 0x80)
-        return {static_cast<char>(character)};
-    if (character < 0x800)
-        return {static_cast<char>(0xC0U | (character >> 6U)), tail(0)};
-    if (character < 0x10000)
-        return {static_cast<char>(0xE0U | (character >> 12U)), tail(6), tail(0)};
-    return {static_cast<char>(0xF0U | (character >> 18U)), tail(12), tail(6), tail(0)};
+/// Converts between UTF-8 and characters. The classic locale has it whatever the desktop's locale is.
+using Utf8Facet = std::codecvt<char32_t, char8_t, std::mbstate_t>;
+const Utf8Facet& Converter() {
+    return std::use_facet<Utf8Facet>(std::locale::classic());
 }
 
-/// What a lead byte of UTF-8 says: its bits of the character, the number of bytes that follow, and the
-/// smallest character that is allowed to be written with so many bytes.
-struct Lead {
-    char32_t bits;
-    std::size_t followers;
-    char32_t least;
-};
-
-Lead LeadOf(unsigned char byte) {
-    if (byte < 0x80)
-        return {byte, 0, 0};
-    if (byte >= 0xC0 && byte < 0xE0)
-        return {byte & 0x1FU, 1, 0x80};
-    if (byte >= 0xE0 && byte < 0xF0)
-        return {byte & 0x0FU, 2, 0x800};
-    if (byte >= 0xF0 && byte < 0xF8)
-        return {byte & 0x07U, 3, 0x10000};
-    return {ReplacementCharacter, 0, 0};
+std::string Utf8(char32_t character) {
+    std::array<char8_t, 4> bytes{};
+    std::mbstate_t state{};
+    const char32_t* read = nullptr;
+    char8_t* end = nullptr;
+    Converter().out(state, &character, &character + 1, read, bytes.data(), bytes.data() + bytes.size(), end);
+    return {bytes.data(), end};
 }
 
 /// The character at `index`, which moves to the next character. At an invalid sequence: the replacement
 /// character, and `index` moves by one byte.
 char32_t NextCharacter(std::string_view text, std::size_t& index) {
-    const std::size_t start = index++;
-    const Lead lead = LeadOf(Byte(text, start));
-    if (lead.followers > text.size() - index)
-        return ReplacementCharacter;
-    char32_t character = lead.bits;
-    for (std::size_t i = 0; i < lead.followers; ++i) {
-        const unsigned char follower = Byte(text, index + i);
-        if ((follower & 0xC0U) != 0x80U)
-            return ReplacementCharacter;
-        character = (character << 6U) | (follower & 0x3FU);
-    }
-    const bool surrogate = character >= 0xD800 && character < 0xE000;
-    if (character < lead.least || character > 0x10FFFF || surrogate)
-        return ReplacementCharacter;
-    index += lead.followers;
-    return character;
+    std::array<char8_t, 4> bytes{};
+    const std::string_view next = text.substr(index, bytes.size());
+    std::transform(next.begin(), next.end(), bytes.begin(), [](char c) { return static_cast<char8_t>(c); });
+    const char8_t* const end = bytes.data() + next.size();
+    std::mbstate_t state{};
+    const char8_t* read = nullptr;
+    char32_t character = ReplacementCharacter;
+    char32_t* written = nullptr;
+    Converter().in(state, bytes.data(), end, read, &character, &character + 1, written);
+    // The converter lets surrogates pass, which are no characters.
+    const bool isRead = written != &character && (character < 0xD800 || character > 0xDFFF);
+    index += isRead ? static_cast<std::size_t>(read - bytes.data()) : 1;
+    return isRead ? character : ReplacementCharacter;
 }
 
 /// "U+2265", with four digits or more.

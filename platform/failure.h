@@ -12,7 +12,6 @@ namespace orvane {
 /// system. The numbers are only shown to the user; only `Cancelled` is compared.
 namespace failure_number {
 inline constexpr std::int32_t Overflow = 20001;
-inline constexpr std::int32_t Arithmetic = 20002;
 inline constexpr std::int32_t InvalidArgument = 20003;
 inline constexpr std::int32_t OutOfRange = 20004;
 inline constexpr std::int32_t EndOfFile = 20005;

@@ -2,21 +2,18 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 
 namespace orvane {
 
-/// Rows and columns count from 0. SetRow and SetCol call the change handler before they return if the
-/// current cell changes, and throw what the handler throws. They do not call it if the cell is already
-/// current.
+/// Rows and columns count from 0. When the current cell changes, the change handler of the grid has run
+/// before the operation returns; it does not run if the cell is already current.
 class MSFlexGrid {
   public:
     virtual ~MSFlexGrid() = default;
 
-    [[nodiscard]] virtual std::int16_t Rows() const = 0;
     /// Removes rows with their texts, or adds empty rows. If the current cell is removed, the current cell
-    /// moves to the last row, and the change handler is called.
+    /// moves to the last row.
     virtual void SetRows(std::int16_t rows) = 0;
 
     [[nodiscard]] virtual std::int16_t Row() const = 0;
@@ -30,9 +27,6 @@ class MSFlexGrid {
 
     /// The text of any cell. The current cell stays the same.
     [[nodiscard]] virtual std::string TextMatrix(std::int16_t row, std::int16_t col) const = 0;
-
-    /// Sets the change handler; there is one, a later call replaces it.
-    virtual void OnRowColChange(std::function<void()> handler) = 0;
 };
 
 } // namespace orvane

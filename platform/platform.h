@@ -24,8 +24,8 @@ struct Platform {
     TimeOfDay& Clock;
     UniformSource& Random;
     Shell32& Shell;
-    Clipboard& Board;
-    Registry& Keys;
+    orvane::Clipboard& Clipboard;
+    orvane::Registry& Registry;
     std::string ProgramDirectory; ///< the folder of the program file, without a final separator
     char Separator;               ///< between the parts of a path
 

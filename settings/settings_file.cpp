@@ -1,8 +1,8 @@
 #include "settings/settings_file.h"
 
 #include "engine/numbers.h"
-#include "output/glb_util.h"
-#include "platform/failure.h"
+#include "platform/failure_report.h"
+#include "platform/text.h"
 
 #include <algorithm>
 
@@ -27,9 +27,16 @@ constexpr const char* UnEqBlockSize = "[UnEqual Block Sizes: Enter sizes(comma d
 constexpr const char* OutputOption = "[Output Option]";
 } // namespace label
 
-void WriteNumber(TextFileWriter& file, const char* label, std::int32_t number) {
-    file.WriteLine(label);
-    file.WriteLine(std::to_string(number));
+std::string Line(const std::string& text) {
+    return text + std::string(LineEnd);
+}
+
+std::string Lines(const char* label, const std::string& value) {
+    return Line(label) + Line(value);
+}
+
+std::string Lines(const char* label, std::int32_t value) {
+    return Lines(label, std::to_string(value));
 }
 
 /// Skips the label and returns the value.
@@ -48,17 +55,20 @@ std::int32_t Read32(TextFileReader& file) {
 
 } // namespace
 
-void SettingsFile::SaveSettings(const std::string& FileNameStr, bool Announce, Unmappable unmappable) {
+void SettingsFile::SaveSettings(const std::string& FileNameStr, bool Announce) {
     WithFailurePath(desktop_.Messages, false, [&] {
-        if (unmappable == Unmappable::Fail)
-            RequireWritableTexts();
-        RequireReadableSize();
-        TextFileWriter file(desktop_.FileSystem.OpenForOutput(FileNameStr), desktop_.Page, unmappable);
-        WriteValues(file);
-        file.Close();
-        TellReplaced();
+        Write(FileNameStr, Compose(Unmappable::Fail));
         if (Announce)
             desktop_.Messages.Show("Settings were saved successfully!");
+    });
+}
+
+void SettingsFile::ReplaceSettings(const std::string& FileNameStr) {
+    WithFailurePath(desktop_.Messages, false, [&] {
+        const std::string bytes = Compose(Unmappable::QuestionMark);
+        DeleteIfPossible(FileNameStr);
+        Write(FileNameStr, bytes);
+        TellReplaced();
     });
 }
 
@@ -69,25 +79,44 @@ std::vector<std::string> SettingsFile::TypedTexts() const {
     return texts;
 }
 
-void SettingsFile::RequireWritableTexts() const {
-    for (const std::string& text : TypedTexts()) {
-        if (text.find(CarriageReturn) != std::string::npos)
-            throw Failure("A line end cannot be saved within a line of a settings file",
-                          failure_number::UnmappableCharacter, "SaveSettings");
-        static_cast<void>(desktop_.Page.Encode(text, Unmappable::Fail));
-    }
+std::string SettingsFile::TypedBytes(std::string text, Unmappable unmappable) const {
+    if (unmappable == Unmappable::Fail && text.find(CarriageReturn) != std::string::npos)
+        throw Failure("A line end cannot be saved within a line of a settings file",
+                      failure_number::UnmappableCharacter, "SaveSettings");
+    std::replace(text.begin(), text.end(), CarriageReturn, '?');
+    return desktop_.Page.Encode(text, unmappable);
 }
 
-void SettingsFile::RequireReadableSize() const {
-    constexpr std::size_t forAllElse = 1024; // labels, numbers and line ends
-    std::size_t size = forAllElse;
-    for (const std::string& text : TypedTexts())
-        size += desktop_.Page.Encode(text, Unmappable::QuestionMark).size();
-    if (size > LargestFile)
-        throw Failure("The names of the groups and the block sizes have more than " +
-                          std::to_string(LargestFile - forAllElse) +
-                          " characters together and were not saved, please shorten them",
+std::string SettingsFile::Compose(Unmappable unmappable) const {
+    std::vector<std::string> typed = TypedTexts();
+    for (std::string& text : typed)
+        text = TypedBytes(std::move(text), unmappable);
+    std::string bytes = Lines(label::NumberOfGroups, list_.NumberOfGroups) + Line(label::Groups);
+    for (auto name = typed.begin() + 2; name != typed.end(); ++name)
+        bytes += Line(*name);
+    bytes += Lines(label::SampleSize, list_.SampleSize);
+    bytes += Lines(label::CodeAlphaNum, list_.CodeAlphaNum);
+    bytes += Lines(label::CodeSeqRandom, list_.CodeSeqRandom);
+    bytes += Lines(label::CodeLength, list_.CodeLength);
+    bytes += Lines(label::BlockOption, list_.prBlockOption);
+    bytes += Lines(label::EqBlockSize, typed[0]);
+    bytes += Lines(label::UnEqBlockSize, typed[1]);
+    bytes += Lines(label::OutputOption, list_.OutputOption);
+    if (bytes.size() > LargestFile)
+        throw Failure("The settings would fill " + std::to_string(bytes.size()) +
+                          " bytes, which is more than the " + std::to_string(LargestFile) +
+                          " that can be read again, and were not saved: please shorten the names of the "
+                          "groups or the block sizes",
                       failure_number::TooLarge, "SaveSettings");
+    return bytes;
+}
+
+void SettingsFile::Write(const std::string& FileNameStr, const std::string& bytes) {
+    const std::unique_ptr<WritableFile> file = desktop_.FileSystem.OpenForOutput(FileNameStr);
+    groupNames_.SetCol(1);
+    groupNames_.SetRow(list_.NumberOfGroups);
+    file->Write(bytes);
+    file->Close();
 }
 
 void SettingsFile::TellReplaced() const {
@@ -106,29 +135,12 @@ void SettingsFile::TellReplaced() const {
                       failure_number::UnmappableCharacter, "SaveSettings");
 }
 
-void SettingsFile::WriteValues(TextFileWriter& file) {
-    // A carriage return would end the line early, and all later values would be on the wrong lines.
-    const auto writeText = [&file](std::string text) {
-        std::replace(text.begin(), text.end(), CarriageReturn, '?');
-        file.WriteLine(text);
-    };
-    WriteNumber(file, label::NumberOfGroups, list_.NumberOfGroups);
-    file.WriteLine(label::Groups);
-    groupNames_.SetCol(1);
-    for (std::int16_t g = 1; g <= list_.NumberOfGroups; ++g) {
-        groupNames_.SetRow(g);
-        writeText(groupNames_.Text());
+void SettingsFile::DeleteIfPossible(const std::string& FileNameStr) {
+    try {
+        desktop_.FileSystem.Delete(FileNameStr);
+    } catch (const Failure&) {
+        // The file may not exist. Any other cause prevents the writing too, which then reports it.
     }
-    WriteNumber(file, label::SampleSize, list_.SampleSize);
-    WriteNumber(file, label::CodeAlphaNum, list_.CodeAlphaNum);
-    WriteNumber(file, label::CodeSeqRandom, list_.CodeSeqRandom);
-    WriteNumber(file, label::CodeLength, list_.CodeLength);
-    WriteNumber(file, label::BlockOption, list_.prBlockOption);
-    file.WriteLine(label::EqBlockSize);
-    writeText(list_.prEqBlockSize);
-    file.WriteLine(label::UnEqBlockSize);
-    writeText(list_.prUnEqBlockSize);
-    WriteNumber(file, label::OutputOption, list_.OutputOption);
 }
 
 void SettingsFile::SetSettings(const std::string& FileNameStr, bool Announce) {
@@ -143,7 +155,7 @@ void SettingsFile::SetSettings(const std::string& FileNameStr, bool Announce) {
 }
 
 void SettingsFile::ReadValues(const std::string& FileNameStr) {
-    TextFileReader file(desktop_.FileSystem.OpenForInput(FileNameStr), desktop_.Page, FileNameStr,
+    TextFileReader file(*desktop_.FileSystem.OpenForInput(FileNameStr), desktop_.Page, FileNameStr,
                         {false, LargestFile, LargestFile});
     controls_.SetNogHsb(Read16(file));
     file.ReadLine();
@@ -159,7 +171,7 @@ void SettingsFile::ReadValues(const std::string& FileNameStr) {
     list_.prBlockOption = Read32(file);
     list_.prEqBlockSize = ReadValue(file);
     list_.prUnEqBlockSize = ReadValue(file);
-    mnuOutput_Click(Read16(file), menu_, list_);
+    controls_.mnuOutput_Click(Read16(file));
 }
 
 } // namespace orvane

@@ -3,11 +3,10 @@
 #pragma once
 
 #include "engine/list_settings.h"
-#include "output/output_channels.h"
-#include "output/text_file.h"
 #include "platform/code_page.h"
 #include "platform/ms_flex_grid.h"
 #include "platform/platform.h"
+#include "platform/text_file.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -16,8 +15,7 @@
 
 namespace orvane {
 
-/// The controls of the main form that a load sets. The operations throw what the change handlers of the
-/// controls throw.
+/// The controls of the main form that a load sets.
 class MainControls {
   public:
     virtual ~MainControls() = default;
@@ -26,46 +24,54 @@ class MainControls {
     virtual void SetNogHsb(std::int16_t position) = 0;
     /// Sets the text of SampSizeTxt, whose handler sets the sample size.
     virtual void SetSampSizeTxt(const std::string& text) = 0;
+    /// Moves the check mark of the output menu to the item `Index` and makes it the channel of the next
+    /// generation. Throws an OutOfRange failure if there is no such item; then no item is checked and the
+    /// channel is unchanged.
+    virtual void mnuOutput_Click(std::int16_t Index) = 0;
 };
 
 class SettingsFile {
   public:
-    SettingsFile(ListSettings& list, MSFlexGrid& groupNames, MainControls& controls, OutputMenu& menu,
-                 Platform& desktop)
-        : list_(list), groupNames_(groupNames), controls_(controls), menu_(menu), desktop_(desktop) {}
+    SettingsFile(ListSettings& list, MSFlexGrid& groupNames, MainControls& controls, Platform& desktop)
+        : list_(list), groupNames_(groupNames), controls_(controls), desktop_(desktop) {}
 
     /// Writes the current inputs into the file, replacing it; with `Announce`, shows a message afterwards.
-    /// The name cell of the last group becomes the current cell of the grid. For a character that the code
-    /// page or a line cannot hold, Unmappable::Fail is a failure before the file is opened; with
-    /// Unmappable::QuestionMark "?" is written and one report at the end names these characters. Reports a
-    /// failure itself; the file then contains what was written so far.
-    void SaveSettings(const std::string& FileNameStr, bool Announce, Unmappable unmappable);
+    /// When the file is open, the name cell of the last group becomes the current cell of the grid. A text
+    /// with a character that the code page or a line cannot hold is a failure before the file is opened, and
+    /// so is a file that SetSettings could not read. Reports a failure itself; the file then contains what
+    /// was written so far.
+    void SaveSettings(const std::string& FileNameStr, bool Announce);
+
+    /// The same without a message, the old file being deleted first if possible. A character that cannot be
+    /// held becomes "?", and one report at the end names these characters. If SetSettings could not read the
+    /// new file, the old one stays unchanged.
+    void ReplaceSettings(const std::string& FileNameStr);
 
     /// Reads the file into the current inputs, each value as soon as its line is read, and then sets the
     /// significance level to 0.05; with `Announce`, shows a message afterwards. An empty name does nothing.
     /// Reports a failure itself; the values read so far remain.
     void SetSettings(const std::string& FileNameStr, bool Announce);
 
-    /// Throws a TooLarge failure if a file of the current inputs would be larger than SetSettings can read.
-    void RequireReadableSize() const;
-
     /// The largest file that is read, in bytes. The boxes of the program are slow to edit long before their
     /// texts fill such a file.
     static constexpr std::size_t LargestFile = std::size_t{1} << 21U;
 
   private:
-    /// The texts that the user types: the names of the groups and the two fields of block sizes.
+    /// The texts that the user types: the two fields of block sizes, then the names of the groups.
     [[nodiscard]] std::vector<std::string> TypedTexts() const;
-    void RequireWritableTexts() const;
+    /// A carriage return would end the line of the text early: it counts as a character that the page lacks.
+    [[nodiscard]] std::string TypedBytes(std::string text, Unmappable unmappable) const;
+    /// The bytes of the file.
+    [[nodiscard]] std::string Compose(Unmappable unmappable) const;
+    void Write(const std::string& FileNameStr, const std::string& bytes);
     /// Throws a failure that names the characters that were written as "?"; does nothing if there are none.
     void TellReplaced() const;
-    void WriteValues(TextFileWriter& file);
+    void DeleteIfPossible(const std::string& FileNameStr);
     void ReadValues(const std::string& FileNameStr);
 
     ListSettings& list_;
     MSFlexGrid& groupNames_;
     MainControls& controls_;
-    OutputMenu& menu_;
     Platform& desktop_;
 };
 

@@ -1,7 +1,6 @@
 #include "settings/settings_workflow.h"
 
-#include "output/glb_util.h"
-#include "platform/failure.h"
+#include "platform/failure_report.h"
 
 namespace orvane {
 
@@ -18,20 +17,7 @@ void SettingsWorkflow::AtStart() {
 }
 
 void SettingsWorkflow::AtEnd() {
-    const std::string path = desktop_.BesideProgram(SavedSettings);
-    WithFailurePath(desktop_.Messages, false, [&] {
-        file_.RequireReadableSize();
-        DeleteIfPossible(path);
-        file_.SaveSettings(path, false, Unmappable::QuestionMark);
-    });
-}
-
-void SettingsWorkflow::DeleteIfPossible(const std::string& path) {
-    try {
-        desktop_.FileSystem.Delete(path);
-    } catch (const Failure&) {
-        // The file may not exist. Any other cause prevents the writing too, which then reports it.
-    }
+    file_.ReplaceSettings(desktop_.BesideProgram(SavedSettings));
 }
 
 void SettingsWorkflow::LoadSettings() {
@@ -41,29 +27,25 @@ void SettingsWorkflow::LoadSettings() {
 void SettingsWorkflow::SaveSettingsAs() {
     const std::string path = GetSaveAsFile();
     if (!path.empty())
-        file_.SaveSettings(path, true, Unmappable::Fail);
+        file_.SaveSettings(path, true);
 }
 
 std::string SettingsWorkflow::GetSettingsFile() {
-    std::string path;
-    WithFailurePath(desktop_.Messages, true, [&] {
-        CMDialog_.FileName = OfferedName;
-        CMDialog_.DialogTitle = "Select the Settings file";
-        CMDialog_.Filter = SettingsFilter;
-        CMDialog_.ShowOpen();
-        path = CMDialog_.FileName;
-    });
-    return path;
+    return Ask("Select the Settings file", &CommonDialog::ShowOpen);
 }
 
 std::string SettingsWorkflow::GetSaveAsFile() {
+    CMDialog_.Flags = CommonDialog::OverwritePrompt;
+    return Ask("Save Settings As...", &CommonDialog::ShowSave);
+}
+
+std::string SettingsWorkflow::Ask(const char* title, void (CommonDialog::*show)()) {
     std::string path;
     WithFailurePath(desktop_.Messages, true, [&] {
-        CMDialog_.Flags = CommonDialog::OverwritePrompt;
         CMDialog_.FileName = OfferedName;
-        CMDialog_.DialogTitle = "Save Settings As...";
+        CMDialog_.DialogTitle = title;
         CMDialog_.Filter = SettingsFilter;
-        CMDialog_.ShowSave();
+        (CMDialog_.*show)();
         path = CMDialog_.FileName;
     });
     return path;

@@ -16,22 +16,18 @@ class SettingsWorkflow {
 
     /// Reads saved.stg in the program's directory. Shows no message on success.
     void AtStart();
-    /// Replaces saved.stg by the current inputs. Shows no message when everything was saved. Reports a
-    /// failure itself: if the texts are too large to be read again, the old file stays unchanged; characters
-    /// that the code page cannot hold are in the file as "?"; after any other failure the file is missing or
-    /// incomplete.
+    /// Replaces saved.stg by the current inputs, as SettingsFile::ReplaceSettings does.
     void AtEnd();
 
     /// Ask for a file, read or write it, and show a message. After a cancel nothing happens.
     void LoadSettings();
     void SaveSettingsAs();
 
-    /// The path chosen in a prompt; empty after a cancel and after a failure, which was then reported.
+  private:
+    // The path chosen in a prompt; empty after a cancel and after a failure, which was then reported.
     std::string GetSettingsFile();
     std::string GetSaveAsFile();
-
-  private:
-    void DeleteIfPossible(const std::string& path);
+    std::string Ask(const char* title, void (CommonDialog::*show)());
 
     SettingsFile& file_;
     CommonDialog& CMDialog_;

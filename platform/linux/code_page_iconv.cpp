@@ -2,16 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cctype>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <cstring>
 #include <string>
-#include <type_traits>
 #include <utility>
 
 #include <glib.h>
-#include <iconv.h>
 
 namespace orvane {
 
@@ -71,11 +70,6 @@ std::string NameOf(int number) {
     return "Windows-" + std::to_string(number);
 }
 
-struct IconvClose {
-    void operator()(iconv_t converter) const { iconv_close(converter); }
-};
-using Converter = std::unique_ptr<std::remove_pointer_t<iconv_t>, IconvClose>;
-
 /// The character for a byte that the page leaves undefined.
 char32_t UndefinedCharacter(std::size_t byte) {
     constexpr std::size_t firstBehindControls = 0xA0;
@@ -84,25 +78,17 @@ char32_t UndefinedCharacter(std::size_t byte) {
                                       : privateUse + static_cast<char32_t>(byte);
 }
 
-/// The character of one byte. For some pages iconv waits for the next byte, because a combining mark could
-/// follow. So the converter is reset before each byte and flushed after it.
-char32_t CharacterOf(iconv_t converter, std::size_t byte) {
-    std::array<char, 1> in{static_cast<char>(byte)};
-    std::array<char, 16> out{};
-    char* from = in.data();
-    std::size_t fromLeft = in.size();
-    char* to = out.data();
-    std::size_t toLeft = out.size();
-    constexpr auto failed = static_cast<std::size_t>(-1);
-    constexpr std::size_t oneCharacter = 4;
-    iconv(converter, nullptr, nullptr, nullptr, nullptr);
-    const bool converted = iconv(converter, &from, &fromLeft, &to, &toLeft) != failed &&
-                           iconv(converter, nullptr, nullptr, &to, &toLeft) != failed;
-    if (!converted || out.size() - toLeft != oneCharacter)
-        return UndefinedCharacter(byte);
+/// The character of one byte. For some pages the converter waits for the next byte, because a combining mark
+/// could follow; the conversion of a whole text ends the waiting.
+char32_t CharacterOf(GIConv converter, std::size_t byte) {
+    const auto in = static_cast<gchar>(byte);
+    gsize length = 0;
+    g_iconv(converter, nullptr, nullptr, nullptr, nullptr); // forgets a byte that failed
+    const g_autofree gchar* out = g_convert_with_iconv(&in, 1, converter, nullptr, &length, nullptr);
     char32_t character = 0;
-    for (std::size_t i = oneCharacter; i-- > 0;)
-        character = (character << 8U) | static_cast<unsigned char>(out.at(i));
+    if (out == nullptr || length != sizeof character)
+        return UndefinedCharacter(byte);
+    std::memcpy(&character, out, sizeof character);
     return character;
 }
 
@@ -118,14 +104,16 @@ std::optional<int> CodePageOfLanguage(std::string_view language) {
 }
 
 std::optional<CodePage> CodePageOfNumber(int number) {
+    constexpr const char* characterType =
+        std::endian::native == std::endian::little ? "UTF-32LE" : "UTF-32BE";
     const std::string name = "CP" + std::to_string(number);
-    iconv_t opened = iconv_open("UTF-32LE", name.c_str());
-    if (reinterpret_cast<std::intptr_t>(opened) == -1)
+    GIConv converter = g_iconv_open(characterType, name.c_str());
+    if (reinterpret_cast<std::intptr_t>(converter) == -1)
         return std::nullopt;
-    const Converter converter(opened);
     std::array<char32_t, 256> characters{};
     for (std::size_t b = 0; b < characters.size(); ++b)
-        characters[b] = CharacterOf(converter.get(), b);
+        characters[b] = CharacterOf(converter, b);
+    g_iconv_close(converter);
     return CodePage(NameOf(number), characters);
 }
 

@@ -40,7 +40,8 @@ EndSignals::EndSignals() : descriptor_(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
             continue;
         struct sigaction action = {};
         action.sa_handler = OnSignal;
-        action.sa_flags = SA_RESTART;
+        // The next signal of this kind ends the program at once, for a user who cannot wait.
+        action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
         ::sigaction(number, &action, nullptr);
     }
 }

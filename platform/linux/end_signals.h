@@ -3,9 +3,10 @@
 
 namespace orvane {
 
-/// As long as the object exists, SIGTERM, SIGINT and SIGHUP do not end the program; each makes the
-/// descriptor readable instead. A signal that was already ignored when the program started, as under nohup,
-/// stays ignored. SIGPIPE is ignored, so that writing to a closed terminal does not end the program.
+/// As long as the object exists, the first SIGTERM, SIGINT or SIGHUP does not end the program, but makes the
+/// descriptor readable. A second signal of the same kind ends the program at once. A signal that was already
+/// ignored when the program started, as under nohup, stays ignored. SIGPIPE is ignored, so that writing to a
+/// closed terminal does not end the program.
 class EndSignals {
   public:
     /// Throws a Failure when the system has no free file descriptor.

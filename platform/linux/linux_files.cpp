@@ -30,15 +30,6 @@ constexpr mode_t OwnerAlone = 0600;
                   error, Source);
 }
 
-/// Repeats a system call that a signal interrupted.
-template <typename Call>
-auto Uninterrupted(Call&& call) {
-    auto result = call();
-    while (result == -1 && errno == EINTR)
-        result = call();
-    return result;
-}
-
 void RequireRegular(const std::string& path, std::string_view what, const struct stat& status) {
     if (!S_ISREG(status.st_mode))
         throw Failure("The file " + path + " could not be " + std::string(what) + ": it is no regular file",
@@ -82,8 +73,8 @@ int OpenWithoutWaiting(const std::string& path, int flags, mode_t mode) {
     // Opening a device can have side effects, so only regular files are opened.
     if (!mustBeNew && ::stat(name, &status) == 0)
         RequireRegular(path, "opened", status);
-    const int number =
-        Uninterrupted([&] { return ::open(name, flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, mode); });
+    const auto number =
+        static_cast<int>(TEMP_FAILURE_RETRY(::open(name, flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, mode)));
     if (number == FileNumber::None)
         Fail(path, mustBeNew ? "created" : "opened", errno);
     return number;
@@ -101,13 +92,12 @@ class RegularFile {
     }
 
     void Empty() {
-        if (Uninterrupted([&] { return ::ftruncate(number_.Get(), 0); }) == -1)
+        if (TEMP_FAILURE_RETRY(::ftruncate(number_.Get(), 0)) == -1)
             Fail(path_, "opened for writing", errno);
     }
 
     std::size_t Read(std::span<char> buffer) {
-        const ssize_t count =
-            Uninterrupted([&] { return ::read(number_.Get(), buffer.data(), buffer.size()); });
+        const ssize_t count = TEMP_FAILURE_RETRY(::read(number_.Get(), buffer.data(), buffer.size()));
         if (count == -1)
             Fail(path_, "read", errno);
         return static_cast<std::size_t>(count);
@@ -115,8 +105,7 @@ class RegularFile {
 
     void Write(std::string_view bytes) {
         while (!bytes.empty()) {
-            const ssize_t count =
-                Uninterrupted([&] { return ::write(number_.Get(), bytes.data(), bytes.size()); });
+            const ssize_t count = TEMP_FAILURE_RETRY(::write(number_.Get(), bytes.data(), bytes.size()));
             if (count <= 0)
                 Fail(path_, "written", count == 0 ? EIO : errno);
             bytes.remove_prefix(static_cast<std::size_t>(count));

@@ -1,9 +1,9 @@
 #include "platform/linux/linux_registry.h"
 
-#include "platform/linux/glib_pointers.h"
-
 #include <algorithm>
 #include <cstddef>
+
+#include <glib.h>
 
 namespace orvane {
 
@@ -15,9 +15,11 @@ constexpr std::int32_t MoreData = 234;
 
 /// The full path of the first installed system information program; empty if there is none.
 std::string FindTool() {
-    for (const char* const name : {"kinfocenter", "hardinfo2", "hardinfo"})
-        if (const GLibPointer<gchar> found{g_find_program_in_path(name)})
-            return found.get();
+    for (const char* const name : {"kinfocenter", "hardinfo2", "hardinfo"}) {
+        const g_autofree gchar* found = g_find_program_in_path(name);
+        if (found != nullptr)
+            return found;
+    }
     return {};
 }
 

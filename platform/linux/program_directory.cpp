@@ -1,37 +1,39 @@
 #include "platform/linux/program_directory.h"
 
-#include <cstddef>
-#include <limits>
-#include <unistd.h>
+#include "platform/failure.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include <sys/auxv.h>
 
 namespace orvane {
 
 namespace {
 
-/// The path of the program file; empty if the system does not tell it.
-std::string ProgramFile() {
-    constexpr std::size_t longest = std::size_t{1} << 20U;
-    for (std::size_t room = 256; room <= longest; room *= 2) {
-        std::string path(room, '\0');
-        const ssize_t length = ::readlink("/proc/self/exe", path.data(), path.size());
-        if (length < 0)
-            return {};
-        if (static_cast<std::size_t>(length) < room) {
-            path.resize(static_cast<std::size_t>(length));
-            return path;
-        }
-    }
-    return {};
+namespace fs = std::filesystem;
+
+/// The path of the program file.
+fs::path ProgramFile() {
+    std::error_code error;
+    fs::path file = fs::read_symlink("/proc/self/exe", error);
+    if (!error)
+        return file;
+    // Without /proc: the path with which the program was started.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the system gives an address as a number
+    const auto* const started = reinterpret_cast<const char*>(::getauxval(AT_EXECFN));
+    fs::path absolute = fs::canonical(started == nullptr ? "" : started, error);
+    if (!error)
+        return absolute;
+    throw Failure("The system does not tell in which folder the program lies: " + error.message(),
+                  error.value(), "ProgramDirectory");
 }
 
 } // namespace
 
 std::string ProgramDirectory() {
-    const std::string path = ProgramFile();
-    const std::size_t separator = path.rfind('/');
-    if (separator == std::string::npos)
-        return ".";
-    return separator == 0 ? "/." : path.substr(0, separator);
+    const std::string folder = ProgramFile().parent_path().string();
+    return folder == "/" ? "/." : folder;
 }
 
 } // namespace orvane

@@ -6,21 +6,14 @@
 
 #include <algorithm>
 #include <exception>
-#include <functional>
 #include <string_view>
 #include <utility>
 
 namespace orvane {
 
-namespace {
-
-constexpr std::uint32_t PlainText = 1;
-
-} // namespace
-
 GlobalHandle QtClipboard::GlobalAlloc(std::uint32_t /*flags*/, std::size_t bytes) {
     try {
-        blocks_[last_ + 1].bytes.assign(bytes, '\0');
+        blocks_[last_ + 1].assign(bytes, '\0');
     } catch (const std::exception&) {
         blocks_.erase(last_ + 1);
         return 0;
@@ -30,29 +23,15 @@ GlobalHandle QtClipboard::GlobalAlloc(std::uint32_t /*flags*/, std::size_t bytes
 
 char* QtClipboard::GlobalLock(GlobalHandle block) {
     const auto found = blocks_.find(block);
-    if (found == blocks_.end())
-        return nullptr;
-    ++found->second.locks;
-    return found->second.bytes.data();
+    return found == blocks_.end() ? nullptr : found->second.data();
 }
 
 void QtClipboard::lstrcpy(char* address, const std::string& text) {
-    for (auto& [handle, block] : blocks_) {
-        char* const begin = block.bytes.data();
-        char* const end = begin + block.bytes.size();
-        if (std::less<>()(address, begin) || !std::less<>()(address, end))
-            continue;
-        const auto room = static_cast<std::size_t>(end - address) - 1;
-        *std::copy_n(text.data(), std::min(room, text.size()), address) = '\0';
-        return;
-    }
+    std::copy_n(text.c_str(), text.size() + 1, address);
 }
 
-std::int32_t QtClipboard::GlobalUnlock(GlobalHandle block) {
-    const auto found = blocks_.find(block);
-    if (found == blocks_.end() || found->second.locks == 0)
-        return 0;
-    return --found->second.locks;
+std::int32_t QtClipboard::GlobalUnlock(GlobalHandle /*block*/) {
+    return 0; // a block is never locked twice
 }
 
 void QtClipboard::GlobalFree(GlobalHandle block) {
@@ -73,7 +52,7 @@ GlobalHandle QtClipboard::SetClipboardData(std::uint32_t format, GlobalHandle bl
     const auto found = blocks_.find(block);
     if (!open_ || format != PlainText || found == blocks_.end())
         return 0;
-    const std::vector<char>& bytes = found->second.bytes;
+    const std::vector<char>& bytes = found->second;
     const std::string_view text(bytes.data(), bytes.size());
     const QString content = QString::fromStdString(page_.Decode(text.substr(0, text.find('\0'))));
     QGuiApplication::clipboard()->setText(content);

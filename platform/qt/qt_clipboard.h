@@ -19,7 +19,6 @@ class QtClipboard : public Clipboard {
 
     GlobalHandle GlobalAlloc(std::uint32_t flags, std::size_t bytes) override;
     char* GlobalLock(GlobalHandle block) override;
-    /// Never writes beyond the end of the block that contains `address`.
     void lstrcpy(char* address, const std::string& text) override;
     std::int32_t GlobalUnlock(GlobalHandle block) override;
     void GlobalFree(GlobalHandle block) override;
@@ -30,13 +29,8 @@ class QtClipboard : public Clipboard {
     std::int32_t CloseClipboard() override;
 
   private:
-    struct Block {
-        std::vector<char> bytes;
-        std::int32_t locks = 0;
-    };
-
     const CodePage& page_;
-    std::map<GlobalHandle, Block> blocks_;
+    std::map<GlobalHandle, std::vector<char>> blocks_;
     GlobalHandle last_ = 0;
     bool open_ = false;
 };

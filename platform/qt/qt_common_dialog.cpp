@@ -2,7 +2,6 @@
 
 #include "platform/failure.h"
 #include "platform/qt/owner_window.h"
-#include "platform/qt/prompt_filter.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
@@ -13,6 +12,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSize>
 #include <QStandardPaths>
 #include <QTreeView>
@@ -23,6 +23,48 @@ namespace {
 
 constexpr const char* Source = "CommonDialog";
 constexpr QSize PromptSize(780, 480);
+
+/// "htm" of "*.htm" and of "*.htm;*.html"; empty for "*" and "*.*".
+QString FirstExtension(const QString& patterns) {
+    static const QRegularExpression plain(QStringLiteral("^\\*\\.([^*?\\[;]+)"));
+    return plain.match(patterns.trimmed()).captured(1);
+}
+
+/// The entries of a filter. A filter is a list of fields with "|" between them: the description and the
+/// patterns of each entry in turn. A last description without patterns is ignored.
+class PromptFilter {
+  public:
+    /// `defaultExtension` is used for an entry whose patterns give no extension.
+    PromptFilter(const std::string& filter, const std::string& defaultExtension);
+
+    /// Each entry in the form that the toolkit expects: the description with the patterns in brackets at its
+    /// end.
+    [[nodiscard]] const QStringList& Entries() const { return entries_; }
+    /// The extension, without a dot, of one of the entries; the default one for any other text.
+    [[nodiscard]] QString ExtensionOf(const QString& entry) const;
+
+  private:
+    QStringList entries_;
+    QStringList extensions_;
+    QString defaultExtension_;
+};
+
+PromptFilter::PromptFilter(const std::string& filter, const std::string& defaultExtension)
+    : defaultExtension_(QString::fromStdString(defaultExtension)) {
+    const QStringList fields = QString::fromStdString(filter).split(u'|');
+    for (qsizetype i = 0; i + 1 < fields.size(); i += 2) {
+        QString patterns = fields.at(i + 1);
+        const QString extension = FirstExtension(patterns);
+        extensions_ += extension.isEmpty() ? defaultExtension_ : extension;
+        const QString brackets = u'(' + patterns.replace(u';', u' ') + u')';
+        const QString& description = fields.at(i);
+        entries_ += description.endsWith(brackets) ? description : description + u' ' + brackets;
+    }
+}
+
+QString PromptFilter::ExtensionOf(const QString& entry) const {
+    return extensions_.value(entries_.indexOf(entry), defaultExtension_);
+}
 
 /// Whether the desktop shows its own prompt instead of the toolkit's widgets.
 bool IsNative(const QFileDialog& dialog) {

@@ -9,34 +9,19 @@ namespace orvane {
 
 namespace {
 
-bool IsUserInput(QEvent::Type type) {
-    switch (type) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::NonClientAreaMouseButtonPress:
-    case QEvent::NonClientAreaMouseButtonRelease:
-    case QEvent::NonClientAreaMouseButtonDblClick:
-    case QEvent::Wheel:
-    case QEvent::ContextMenu:
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
+bool IsUserInput(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::Enter:
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+    case QEvent::HoverLeave:
+        return false; // the place of the pointer, which does nothing
     case QEvent::Shortcut:
-    case QEvent::ShortcutOverride:
     case QEvent::InputMethod:
-    case QEvent::TouchBegin:
-    case QEvent::TouchUpdate:
-    case QEvent::TouchEnd:
-    case QEvent::TouchCancel:
-    case QEvent::TabletPress:
-    case QEvent::TabletRelease:
-    case QEvent::TabletMove:
-    case QEvent::NativeGesture:
     case QEvent::Drop:
         return true;
     default:
-        return false;
+        return event.isInputEvent();
     }
 }
 
@@ -58,7 +43,7 @@ void QtInputDrain::DropPendingInput() {
 bool QtInputDrain::eventFilter(QObject* /*watched*/, QEvent* event) {
     // A message box that opened meanwhile, to report a failure, needs an answer.
     const bool boxOpened = QApplication::activeModalWidget() != modal_;
-    if (boxOpened || !IsUserInput(event->type()))
+    if (boxOpened || !IsUserInput(*event))
         return false;
     event->ignore();
     return true;

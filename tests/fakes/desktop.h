@@ -5,7 +5,6 @@
 #include "fakes/memory_files.h"
 #include "fakes/random.h"
 #include "platform/common_dialog.h"
-#include "platform/ms_flex_grid.h"
 #include "platform/platform.h"
 
 #include <array>
@@ -40,6 +39,12 @@ struct ScriptedMessageBox : MessageBox {
     std::function<void()> WhileShown; ///< runs while a message is open
     Texts Unread;
 };
+
+/// The message that reports a failure.
+inline std::string Report(const std::string& description, std::int32_t number, const std::string& source) {
+    return "Error Description: " + description + "\r\nError Number: " + std::to_string(number) +
+           "\r\nError Source: " + source;
+}
 
 struct RecordingPointer : MousePointer {
     void ShowBusy() override { Note(true); }
@@ -77,31 +82,31 @@ struct FakeShell : Shell32, Faults {
 /// Operations that fail give the answer that says so.
 struct MemoryClipboard : Clipboard, Faults {
     std::string Content = "earlier content"; ///< bytes, without the terminator
-    std::string Calls;                       ///< each with a blank behind it
-    std::vector<char> Block;                 ///< the only one, empty when it is freed or handed over
+    Texts Calls;                             ///< of the operations that can fail, and EmptyClipboard
+    std::vector<char> Block;                 ///< the only one, empty when it was freed
 
     bool Works(const std::string& call) {
-        Calls += call + " ";
+        Calls.push_back(call);
         return !Failing(call);
     }
-    GlobalHandle GlobalAlloc(std::uint32_t flags, std::size_t bytes) override {
-        Calls += std::to_string(flags) + "*" + std::to_string(bytes) + " ";
-        Block.assign(bytes, '\0');
-        return Works("GlobalAlloc") ? 1 : 0;
+    GlobalHandle GlobalAlloc(std::uint32_t /*flags*/, std::size_t bytes) override {
+        if (!Works("GlobalAlloc"))
+            return 0;
+        Block.assign(bytes, 'x');
+        return 1;
     }
     char* GlobalLock(GlobalHandle /*block*/) override { return Works("GlobalLock") ? Block.data() : nullptr; }
     void lstrcpy(char* address, const std::string& text) override {
         std::copy_n(text.c_str(), text.size() + 1, address);
     }
     std::int32_t GlobalUnlock(GlobalHandle /*block*/) override { return Works("GlobalUnlock") ? 0 : 1; }
-    void GlobalFree(GlobalHandle /*block*/) override { Works("GlobalFree"); }
+    void GlobalFree(GlobalHandle /*block*/) override { Block.clear(); }
     std::int32_t OpenClipboard() override { return Works("OpenClipboard") ? 1 : 0; }
     void EmptyClipboard() override {
         Works("EmptyClipboard");
         Content.clear();
     }
-    GlobalHandle SetClipboardData(std::uint32_t format, GlobalHandle block) override {
-        Calls += std::to_string(format) + " ";
+    GlobalHandle SetClipboardData(std::uint32_t /*format*/, GlobalHandle block) override {
         if (!Works("SetClipboardData"))
             return 0;
         Content = Block.data();
@@ -169,26 +174,6 @@ struct ScriptedDialog : CommonDialog, Faults {
     }
 };
 
-/// A grid that holds the names of the groups and has no current cell.
-struct MemoryGrid : MSFlexGrid {
-    explicit MemoryGrid(Texts names = {"Group 1", "Group 2"}) : Names(std::move(names)) {}
-
-    [[nodiscard]] std::int16_t Rows() const override { return static_cast<std::int16_t>(Names.size() + 1); }
-    [[nodiscard]] std::string TextMatrix(std::int16_t row, std::int16_t col) const override {
-        return col == 1 ? Names.at(static_cast<std::size_t>(row - 1)) : "a number";
-    }
-    void SetRows(std::int16_t /*rows*/) override {}
-    [[nodiscard]] std::int16_t Row() const override { return 0; }
-    void SetRow(std::int16_t /*row*/) override {}
-    [[nodiscard]] std::int16_t Col() const override { return 0; }
-    void SetCol(std::int16_t /*col*/) override {}
-    [[nodiscard]] std::string Text() const override { return ""; }
-    void SetText(const std::string& /*text*/) override {}
-    void OnRowColChange(std::function<void()> /*handler*/) override {}
-
-    Texts Names;
-};
-
 /// The characters of numbers 0 to 255, but for the euro at its place.
 inline const CodePage& WesternPage() {
     static const CodePage page = [] {
@@ -208,10 +193,10 @@ struct FakeDesktop {
     SetClock clock;
     ListedSource random;
     FakeShell shell;
-    MemoryClipboard board;
-    MemoryRegistry keys;
-    Platform platform{messages, pointer, files, WesternPage(), clock, random,
-                      shell,    board,   keys,  "/program",    '/'};
+    MemoryClipboard clipboard;
+    MemoryRegistry registry;
+    Platform platform{messages, pointer,   files,    WesternPage(), clock, random,
+                      shell,    clipboard, registry, "/program",    '/'};
 };
 
 } // namespace orvane::fakes

@@ -2,18 +2,43 @@
 
 #include "windows.h"
 
+#include <QAbstractButton>
 #include <QStackedWidget>
+#include <QTabBar>
 
 #include <cmath>
 
 namespace orvane {
 namespace {
 
+/// The tabs of the window, counted from 0.
+enum Tabs : int { BlocksTab = 0, CodeTab = 1, FormatTab = 2, StatisticsTab = 3 };
+
+void ExpectOptions(const ListSettings& found, const ListSettings& expected) {
+    EXPECT_EQ(found.prBlockOption, expected.prBlockOption);
+    EXPECT_EQ(found.prEqBlockSize, expected.prEqBlockSize);
+    EXPECT_EQ(found.prUnEqBlockSize, expected.prUnEqBlockSize);
+    EXPECT_EQ(found.CodeAlphaNum, expected.CodeAlphaNum);
+    EXPECT_EQ(found.CodeSeqRandom, expected.CodeSeqRandom);
+    EXPECT_EQ(found.CodeLength, expected.CodeLength);
+    EXPECT_EQ(found.PerformRuns, expected.PerformRuns);
+    EXPECT_EQ(found.SigLevel, expected.SigLevel);
+    EXPECT_EQ(found.Columns, expected.Columns);
+    EXPECT_EQ(found.CellSpacing, expected.CellSpacing);
+    EXPECT_EQ(found.TableBorder, expected.TableBorder);
+}
+
 struct Options : WindowTest {
     Options() {
         settings.SampleSize = 20;
         settings.CodeLength = 3;
-        settings.SigLevel = std::nextafter(0.05F, 1.0F);
+        settings.SigLevel = 0.05F;
+        grid.setColumnCount(2);
+        grid.SetRows(3);
+        grid.SetRow(1);
+        grid.SetText("Group 1");
+        grid.SetRow(2);
+        grid.SetText("Group 2");
     }
     /// Runs the script in the window, which it may leave open for Cancel.
     void Open(const std::function<void(QDialog&)>& script) {
@@ -24,269 +49,243 @@ struct Options : WindowTest {
                           Click(window, "cmdCancel");
                   });
     }
-    /// The values of the panels. Cancel restores those before the bar.
-    [[nodiscard]] std::string Values() const {
-        std::ostringstream all;
-        all << settings.prBlockOption << ' ' << settings.prEqBlockSize << ' ' << settings.prUnEqBlockSize
-            << ' ' << settings.CodeAlphaNum << settings.CodeSeqRandom << ' ' << settings.CodeLength << ' '
-            << settings.PerformRuns << ' ' << settings.SigLevel << '|' << settings.Columns
-            << settings.CellSpacing << settings.TableBorder;
-        return all.str();
-    }
-    static std::string Text(QDialog& window, const std::string& name) {
-        return Find(window, name).property("text").toString().toStdString();
-    }
-    /// The labels of the bars: the length of a code, columns, cell spacing.
-    static std::string Bars(QDialog& window) {
-        return Text(window, "LenLbl") + " " + Text(window, "ColLbl") + " " + Text(window, "lblCellSp");
-    }
-    static bool Checked(QDialog& window, const std::string& name) {
-        return Find(window, name).property("checked").toBool();
-    }
     static void SelectTab(QDialog& window, int tab) {
-        Find<QTabBar>(window, "tbsOptions").setCurrentIndex(tab - 1);
+        Find<QTabBar>(window, "tbsOptions").setCurrentIndex(tab);
     }
-    static int Tab(QDialog& window) {
+    static int SelectedTab(QDialog& window) {
         const int tab = Find<QTabBar>(window, "tbsOptions").currentIndex();
-        EXPECT_EQ(tab, Find<QStackedWidget>(window, "picOptions").currentIndex());
-        return tab + 1;
+        EXPECT_EQ(Find<QStackedWidget>(window, "picOptions").currentIndex(), tab);
+        return tab;
     }
-    /// Changes everything that can be changed.
+    static void PressOn(QDialog& window, const std::string& control, Qt::Key key) {
+        Find(window, control).setFocus();
+        Press(key);
+    }
+    /// Changes everything that can be changed, tab by tab.
     static void ChangeAll(QDialog& window) {
-        const auto type = [&](const std::string& field, const QString& text) {
-            Find<LineBox>(window, field).setFocus();
-            Find<LineBox>(window, field).selectAll();
-            Type(text);
-        };
         Click(window, "BlkOpt_1");
-        type("EqBlockSizeTxt", "1 x");
+        Fill(window, "EqBlockSizeTxt", "1 x");
         Click(window, "BlkOpt_2");
-        type("UnEqBlockSizeTxt", "4,6");
-        for (const std::string control : {"", "AlphaNumOpt_1", "SeqRandOpt_1", "LenHsb", "", "chkTableBorder",
-                                          "ColHsb", "hsbCellSp", "", "chkPerformRuns"}) {
-            if (control.empty())
-                Press(Qt::Key_Tab, Qt::ControlModifier);
-            else if (qobject_cast<QScrollBar*>(&Find(window, control)) == nullptr)
-                Click(window, control);
-            else
-                QTest::keyClick(&Find(window, control),
-                                control == "ColHsb" ? Qt::Key_PageUp : Qt::Key_PageDown);
-        }
-        Click(window, "cmdApply");
-        type("txtLevel", "0.25");
-        EXPECT_EQ(Bars(window), "4 5 2");
+        Fill(window, "UnEqBlockSizeTxt", "4,6");
+        SelectTab(window, CodeTab);
+        Click(window, "AlphaNumOpt_1");
+        Click(window, "SeqRandOpt_1");
+        PressOn(window, "LenHsb", Qt::Key_PageDown);
+        SelectTab(window, FormatTab);
+        PressOn(window, "ColHsb", Qt::Key_PageUp);
+        Click(window, "chkTableBorder");
+        PressOn(window, "hsbCellSp", Qt::Key_PageDown);
+        SelectTab(window, StatisticsTab);
+        Click(window, "chkPerformRuns");
+        Fill(window, "txtLevel", "0.25");
     }
-    /// The values behind ChangeAll, but for the cell spacing and the border, which OK alone takes.
-    const std::string AllChanged = "2 1 x 4,6 11 4 1 0.25|5";
+    /// The options after ChangeAll. OK alone takes the border and the cell spacing.
+    static ListSettings AllChanged() {
+        ListSettings changed;
+        changed.prBlockOption = RandomSizesOf;
+        changed.prEqBlockSize = "1 x";
+        changed.prUnEqBlockSize = "4,6";
+        changed.CodeAlphaNum = Numeric;
+        changed.CodeSeqRandom = Random;
+        changed.CodeLength = 4;
+        changed.Columns = 5;
+        changed.PerformRuns = true;
+        changed.SigLevel = 0.25F;
+        return changed;
+    }
 
-    MemoryGrid grid;
+    LineBox TempTxt;
+    FlexGridWidget grid;
     ListSettings settings;
     ListResults results;
-    OptionsForm form{settings, results, grid, desktop.platform};
+    GroupNameEditor groupNames{settings, grid, TempTxt};
+    OptionsForm form{settings, results, groupNames, desktop.platform};
 };
 
-TEST_F(Options, OpenOnTheFirstTabUnderTheNormalPointer) {
+TEST_F(Options, OpenOnTheFirstTabUnderTheNormalPointerWithNothingClipped) {
     desktop.pointer.ShowBusy();
-    Open([&](QDialog& window) {
+    Open([this](QDialog& window) {
         EXPECT_FALSE(desktop.pointer.Busy);
-        EXPECT_EQ(Wordings(window), Told("options_form.txt"));
-        EXPECT_EQ(settings.SigLevel, 0.05F) << "as shown";
-        const auto& tabs = Find<QTabBar>(window, "tbsOptions");
-        EXPECT_EQ(tabs.tabText(3) + tabs.tabToolTip(0), "StatisticsSet Options for blocks");
-        EXPECT_EQ(Tab(window), 1);
+        EXPECT_EQ(SelectedTab(window), BlocksTab);
+        EXPECT_EQ(Focused(window), "tbsOptions");
+        ExpectNothingClipped(window);
+        ExpectNamesForAssistivePrograms(window);
     });
-    settings.CodeAlphaNum = Mixed;
-    settings.CodeSeqRandom = Random;
-    // The tab, the block option, and of the Tab key's stops those in the panel.
-    const std::vector<std::tuple<int, BlockOptions, std::string>> rows = {
-        {1, OnlyOneBlock, "BlkOpt_0"},
-        {1, EqualSize, "BlkOpt_1 EqBlockSizeTxt"},
-        {1, RandomSizesOf, "BlkOpt_2 UnEqBlockSizeTxt"},
-        {2, OnlyOneBlock, "LenHsb SeqRandOpt_1 AlphaNumOpt_2"},
-        {3, OnlyOneBlock, "ColHsb chkTableBorder hsbCellSp"},
-        {4, OnlyOneBlock, "txtLevel chkPerformRuns"}};
-    for (const auto& [tab, option, stops] : rows) {
-        settings.prBlockOption = option;
-        Open([&, tab = tab, stops = stops](QDialog& window) {
-            SelectTab(window, tab);
-            EXPECT_EQ(TabStops(window), "tbsOptions cmdOK cmdCancel cmdApply " + stops);
+}
+
+TEST_F(Options, RaiseTheCodeLengthToItsLimitAndNeverLowerIt) {
+    struct Row {
+        std::int16_t sampleSize;
+        std::int16_t length;
+        std::int16_t limit;
+        std::int16_t shown;
+    };
+    // 3 is the position of the bar before the opening, which a new limit may push.
+    const Row rows[] = {{3, 0, 1, 1}, {20, 3, 2, 3}, {20, 1, 2, 2}, {1000, 3, 4, 4}, {32767, 8, 6, 8}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(std::to_string(row.sampleSize) + " subjects, length " + std::to_string(row.length));
+        settings.SampleSize = row.sampleSize;
+        settings.CodeLength = row.length;
+        Open([&](QDialog& window) {
+            EXPECT_EQ(Find<QScrollBar>(window, "LenHsb").minimum(), row.limit);
+            EXPECT_EQ(TextOf(window, "LenLbl"), std::to_string(row.shown));
+            EXPECT_EQ(settings.CodeLength, row.shown);
         });
+        EXPECT_EQ(settings.CodeLength, row.length) << "after Cancel";
     }
 }
 
-TEST_F(Options, CodeLengthIsRaisedToItsLimitAndNeverLowered) {
-    // The sample size, the code length, its limit, the length shown. 3 is the bar's position and limit before
-    // the opening, where a limit that is set may push it.
-    using Row = std::array<std::int16_t, 4>;
-    for (const auto& [size, length, limit, shown] :
-         {Row{3, 0, 1, 1}, Row{20, 3, 2, 3}, Row{20, 1, 2, 2}, Row{1000, 3, 4, 4}, Row{32767, 8, 6, 8},
-          Row{32767, 0, 6, 6}, Row{100, 10, 3, 10}}) {
-        settings.SampleSize = size;
-        settings.CodeLength = length;
-        Open([&, limit = limit, shown = shown](QDialog& window) {
-            const auto& bar = Find<QScrollBar>(window, "LenHsb");
-            EXPECT_EQ(std::tuple(bar.minimum(), bar.maximum()), std::tuple(limit, 10));
-            EXPECT_EQ(settings.CodeLength, shown);
-            EXPECT_EQ(bar.value(), shown);
-            EXPECT_EQ(Text(window, "LenLbl"), std::to_string(shown));
-        });
-        EXPECT_EQ(settings.CodeLength, length);
-    }
-}
-
-TEST_F(Options, LoadedValuesOutOfRangeAreShownAsTheNearest) {
-    settings.CodeAlphaNum = 9;
-    settings.CodeSeqRandom = -1;
-    settings.prBlockOption = 17;
-    settings.CodeLength = 300;
+TEST_F(Options, TakeTheLevelAsItIsShown) {
     settings.SigLevel = std::nextafter(0.05F, 1.0F);
-    for (const auto& [columns, spacing, bars, after] :
-         {std::tuple(99, -5, "10 10 0", "10-5"), {0, 6, "10 1 5", "16"}}) {
-        settings.Columns = static_cast<std::int16_t>(columns);
-        settings.CellSpacing = static_cast<std::int16_t>(spacing);
-        Open([&, bars = bars](QDialog& window) {
-            for (const char* option : {"AlphaNumOpt_2", "SeqRandOpt_0", "BlkOpt_3"})
-                EXPECT_TRUE(Checked(window, option)) << option;
-            EXPECT_EQ(Bars(window), bars);
-            EXPECT_EQ(Text(window, "txtLevel"), "0.05");
-        });
-        EXPECT_EQ(Values(), "17   9-1 300 0 0.05|"s + after + "0");
-        EXPECT_EQ(settings.SigLevel, 0.05F) << "as shown";
-    }
+    Open([](QDialog& window) { EXPECT_EQ(TextOf(window, "txtLevel"), "0.05"); });
+    EXPECT_EQ(settings.SigLevel, 0.05F);
 }
 
-TEST_F(Options, CancelEscAndTheFrameGoBackToTheSnapshot) {
+TEST_F(Options, GoBackAtCancelEscapeAndTheCloseOfTheFrame) {
+    const ListSettings before = settings;
     for (const auto& leave : std::vector<std::function<void(QDialog&)>>{
              [](QDialog& window) { Click(window, "cmdCancel"); }, [](QDialog&) { Press(Qt::Key_Escape); },
              [](QDialog& window) { window.close(); }}) {
-        settings.Columns = 6;
-        settings.CodeAlphaNum = 9; // out of range, shown as the nearest
-        settings.SelectedCmd = ClosedByOK;
-        desktop.pointer.Calls.clear();
+        settings = before;
         Open([&](QDialog& window) {
             ChangeAll(window);
-            EXPECT_EQ(Values(), AllChanged + "10");
-            EXPECT_EQ(settings.SelectedCmd, ClosedByOK);
             leave(window);
         });
-        EXPECT_EQ(Values(), "0   90 3 0 0.05|510");
         EXPECT_EQ(settings.SelectedCmd, ClosedByCancel);
-        EXPECT_EQ(desktop.pointer.Calls, "N");
+        settings.Columns = before.Columns; // the only option that keeps its change
+        ExpectOptions(settings, before);
+        EXPECT_FALSE(desktop.pointer.Busy);
     }
-    EXPECT_EQ(results.BlockSizes.size(), 1U);
 }
 
-TEST_F(Options, OKKeepsAllAndTheNextOpeningShowsIt) {
-    settings.Columns = 6;
-    Open([&](QDialog& window) {
+TEST_F(Options, AreTakenByOKUnderTheBusyPointer) {
+    Open([this](QDialog& window) {
         ChangeAll(window);
+        ExpectOptions(settings, AllChanged());
         Press(Qt::Key_Return);
-        Click(window, "cmdCancel"); // comes too late
     });
+    ListSettings expected = AllChanged();
+    expected.TableBorder = true;
+    expected.CellSpacing = 2;
+    ExpectOptions(settings, expected);
     EXPECT_EQ(settings.SelectedCmd, ClosedByOK);
-    EXPECT_EQ(Values(), AllChanged + "21");
+    EXPECT_EQ(settings.GroupNames, (Texts{"Group 1", "Group 2"}));
     EXPECT_TRUE(desktop.pointer.Busy);
     EXPECT_GT(results.BlockSizes.size(), 1U);
-    Open([&](QDialog& window) {
-        EXPECT_EQ(Values(), AllChanged + "21");
-        for (const char* option :
-             {"BlkOpt_2", "AlphaNumOpt_1", "SeqRandOpt_1", "chkPerformRuns", "chkTableBorder"})
-            EXPECT_TRUE(Checked(window, option)) << option;
-        EXPECT_EQ(Text(window, "EqBlockSizeTxt") + Text(window, "UnEqBlockSizeTxt") +
-                      Text(window, "txtLevel"),
-                  "1 x4,60.25");
-        EXPECT_EQ(Bars(window), "4 5 2");
+    Open([](QDialog& window) {
+        EXPECT_TRUE(Find<QAbstractButton>(window, "chkPerformRuns").isChecked());
+        Click(window, "cmdOK");
     });
+    ExpectOptions(settings, expected); // as they were shown again
 }
 
-TEST_F(Options, ABlockOptionEnablesItsFieldAndMovesTheFocusThere) {
+TEST_F(Options, EnableTheFieldOfTheSelectedBlocksAndMoveTheFocusThere) {
+    struct Row {
+        std::string clicked;
+        bool equalEnabled;
+        bool listEnabled;
+        std::string focused;
+        std::string selected;
+    };
+    const Row rows[] = {{"BlkOpt_2", false, true, "UnEqBlockSizeTxt", "4-8"},
+                        {"BlkOpt_1", true, false, "EqBlockSizeTxt", "12"},
+                        {"BlkOpt_0", false, false, "BlkOpt_0", ""}};
     settings.prEqBlockSize = "12";
     settings.prUnEqBlockSize = "4-8";
-    settings.prBlockOption = EqualSize;
     Open([&](QDialog& window) {
-        const auto state = [&] {
-            const auto* field = qobject_cast<LineBox*>(window.focusWidget());
-            return (Find(window, "EqBlockSizeTxt").isEnabled() ? "x"s : "-") +
-                   (Find(window, "UnEqBlockSizeTxt").isEnabled() ? "x " : "- ") + Focused(window) +
-                   (field == nullptr ? "" : " " + field->selectedText().toStdString());
-        };
-        EXPECT_EQ(state(), "x- tbsOptions");
-        for (const auto& [option, then] : {std::pair("BlkOpt_2", "-x UnEqBlockSizeTxt 4-8"),
-                                           {"BlkOpt_3", "-- BlkOpt_3"},
-                                           {"BlkOpt_0", "-- BlkOpt_0"}}) {
-            Click(window, option);
-            EXPECT_EQ(state(), then);
+        for (const Row& row : rows) {
+            SCOPED_TRACE(row.clicked);
+            Click(window, row.clicked);
+            EXPECT_EQ(Find(window, "EqBlockSizeTxt").isEnabled(), row.equalEnabled);
+            EXPECT_EQ(Find(window, "UnEqBlockSizeTxt").isEnabled(), row.listEnabled);
+            EXPECT_EQ(Focused(window), row.focused);
+            EXPECT_EQ(SelectedText(window), row.selected);
         }
         Press(Qt::Key_Down);
-        EXPECT_EQ(state(), "x- EqBlockSizeTxt 12");
-        Type("6");
-        EXPECT_EQ(settings.prEqBlockSize + settings.prUnEqBlockSize, "64-8");
+        EXPECT_EQ(Focused(window), "EqBlockSizeTxt") << "after an arrow key too";
     });
 }
 
-TEST_F(Options, CtrlTabStepsToTheNextTabFromEveryControl) {
+TEST_F(Options, StepToTheNextTabAtCtrlTabFromEveryControl) {
     settings.prBlockOption = RandomSizesOf;
     Open([](QDialog& window) {
-        int tab = 1;
-        for (const char* name : {"UnEqBlockSizeTxt", "LenHsb", "chkTableBorder", "txtLevel", "BlkOpt_2"}) {
-            Find(window, name).setFocus();
+        int tab = BlocksTab;
+        for (const char* control : {"UnEqBlockSizeTxt", "LenHsb", "chkTableBorder", "txtLevel", "BlkOpt_2"}) {
+            SCOPED_TRACE(control);
+            Find(window, control).setFocus();
             Press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
-            EXPECT_EQ(Tab(window), tab) << name;
-            Find(window, name).setFocus();
+            EXPECT_EQ(SelectedTab(window), tab) << "after Ctrl+Shift+Tab";
+            Find(window, control).setFocus();
             Press(Qt::Key_Tab, Qt::ControlModifier);
-            EXPECT_EQ(Tab(window), tab = tab % 4 + 1) << name;
+            tab = tab == StatisticsTab ? BlocksTab : tab + 1;
+            EXPECT_EQ(SelectedTab(window), tab);
         }
     });
 }
 
-TEST_F(Options, ARefusedOKLeavesTheWindowOpenWithTheFocusOnTheFieldIfItIsInSight) {
-    // The block option, its text, the level, the tab at the press, the message, the tab and the focus then.
-    const std::string noSize = "please specify the block size";
-    const std::string noLevel = "Significance level must be greater than 0 ad less than 0.35";
-    const std::vector<std::tuple<BlockOptions, std::string, const char*, int, std::string, std::string>>
-        rows = {{EqualSize, "abc", "0.05", 1, noSize, "1 EqBlockSizeTxt abc"},
-                {EqualSize, "", "0.05", 2, noSize, "2 cmdOK "},
-                {RandomSizesOf, "x", "0.05", 1, "please specify block sizes", "1 UnEqBlockSizeTxt x"},
-                {OnlyOneBlock, "", "0.31", 1, noLevel, "4 txtLevel 0.31"},
-                {OnlyOneBlock, "", "0", 3, noLevel, "4 txtLevel 0"}};
-    for (const auto& row : rows) {
-        settings.prEqBlockSize = settings.prUnEqBlockSize = std::get<1>(row);
-        settings.prBlockOption = std::get<0>(row);
+TEST_F(Options, StayOpenAfterARefusalWithTheFocusOnTheFieldIfItIsInSight) {
+    struct Row {
+        BlockOptions option;
+        std::string text; ///< of the field that is refused
+        int tab;
+        int tabThen;
+        std::string focused;
+    };
+    const Row rows[] = {{EqualSize, "abc", BlocksTab, BlocksTab, "EqBlockSizeTxt"},
+                        {EqualSize, "", CodeTab, CodeTab, "cmdOK"},
+                        {RandomSizesOf, "x", BlocksTab, BlocksTab, "UnEqBlockSizeTxt"},
+                        {OnlyOneBlock, "0.31", BlocksTab, StatisticsTab, "txtLevel"}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.focused);
+        settings.prEqBlockSize = settings.prUnEqBlockSize = row.text;
+        settings.prBlockOption = row.option;
         Open([&](QDialog& window) {
-            Find<LineBox>(window, "txtLevel").setText(std::get<2>(row));
-            SelectTab(window, std::get<3>(row));
+            if (row.option == OnlyOneBlock)
+                Find<LineBox>(window, "txtLevel").SetText(row.text);
+            SelectTab(window, row.tab);
             Click(window, "cmdOK");
-            EXPECT_EQ(Message(), std::get<4>(row));
-            const auto* field = qobject_cast<LineBox*>(window.focusWidget());
-            const QString selected = field == nullptr ? QString() : field->selectedText();
-            EXPECT_EQ(std::to_string(Tab(window)) + " " + Focused(window) + " " + selected.toStdString(),
-                      std::get<5>(row));
+            EXPECT_NE(Message(), "");
             EXPECT_TRUE(window.isVisible());
+            EXPECT_EQ(SelectedTab(window), row.tabThen);
+            EXPECT_EQ(Focused(window), row.focused);
+            EXPECT_EQ(SelectedText(window), row.text);
         });
     }
-    desktop.random.Fails = {"UniformNext"};
-    settings.prBlockOption = RandomBlockSize;
-    Open([&](QDialog& window) {
+}
+
+TEST_F(Options, IgnoreTheirButtonsBehindARefusal) {
+    settings.prBlockOption = EqualSize;
+    Open([this](QDialog& window) {
+        desktop.messages.WhileShown = [&] {
+            Click(window, "cmdOK");
+            Click(window, "cmdCancel");
+            window.close();
+            EXPECT_TRUE(window.isVisible());
+        };
         Click(window, "cmdOK");
-        EXPECT_EQ(Message(), "report");
-        EXPECT_TRUE(window.isVisible());
-        EXPECT_FALSE(desktop.pointer.Busy);
+        EXPECT_EQ(desktop.messages.TakeAll(), Texts{"please specify the block size"});
     });
 }
 
-TEST_F(Options, EnterPressesOKOrTheFocusedButton) {
-    for (const std::string name : {"tbsOptions", "BlkOpt_3", "cmdCancel"}) {
-        Open([&](QDialog& window) {
-            Find(window, "cmdApply").setFocus();
-            Press(Qt::Key_Return);
-            Find(window, name).setFocus();
-            HoldEnterDown();
-            EXPECT_TRUE(window.isVisible());
-            Press(Qt::Key_Enter);
-            EXPECT_FALSE(window.isVisible());
-        });
-        EXPECT_EQ(settings.SelectedCmd, name == "cmdCancel" ? ClosedByCancel : ClosedByOK) << name;
-    }
+TEST_F(Options, TakeEnterAsOKOrAsThePressOfTheFocusedButton) {
+    Open([](QDialog& window) {
+        PressOn(window, "cmdApply", Qt::Key_Return);
+        EXPECT_TRUE(window.isVisible());
+        PressOn(window, "cmdCancel", Qt::Key_Enter);
+    });
+    EXPECT_EQ(settings.SelectedCmd, ClosedByCancel);
+    Open([](QDialog& window) { PressOn(window, "BlkOpt_0", Qt::Key_Return); });
+    EXPECT_EQ(settings.SelectedCmd, ClosedByOK);
+}
+
+TEST_F(Options, ShowALoadedValueOutOfRangeAsTheNearestAndKeepItAtCancel) {
+    settings.CodeAlphaNum = 9;
+    settings.CellSpacing = -5;
+    Open([](QDialog& window) {
+        EXPECT_TRUE(Find<QAbstractButton>(window, "AlphaNumOpt_2").isChecked());
+        EXPECT_EQ(TextOf(window, "lblCellSp"), "0");
+    });
+    EXPECT_EQ(settings.CodeAlphaNum, 9);
 }
 
 } // namespace

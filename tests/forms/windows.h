@@ -8,22 +8,22 @@
 #include "forms/line_box.h"
 #include "forms/main_form.h"
 
+#include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QDialog>
 #include <QLabel>
-#include <QMenu>
 #include <QScrollBar>
-#include <QTabBar>
 #include <QTest>
 #include <QTimer>
-
-#include <fstream>
-#include <tuple>
 
 namespace orvane {
 
 using namespace fakes;
 using namespace std::string_literals;
+
+/// What Message tells in place of the text of an error report.
+inline constexpr const char* ErrorReport = "the report of an error";
 
 template <class Control = QWidget>
 Control& Find(QObject& window, const std::string& name) {
@@ -33,64 +33,71 @@ Control& Find(QObject& window, const std::string& name) {
     return *found;
 }
 
-/// The texts of all controls, "name: text|tool tip|name for assistive programs". Each has room for its text.
-inline std::string Wordings(QWidget& window) {
-    QStringList all(window.windowTitle() + (window.isModal() ? ", modal" : ""));
-    for (QWidget* control : window.findChildren<QWidget*>()) {
-        const QVariant title = control->property("title");
-        QString text = (title.isValid() ? title : control->property("text")).toString();
-        if (const auto* label = qobject_cast<QLabel*>(control)) {
-            EXPECT_LE(label->heightForWidth(label->width()), label->height()) << text.toStdString();
-        }
-        if (const auto* menu = qobject_cast<QMenu*>(control))
-            for (const QAction* item : menu->actions())
-                text += ", " + (item->isSeparator() ? "-" : item->text()) +
-                        (item->isEnabled() ? "" : " (off)") + (item->isChecked() ? " (x)" : "");
-        if (const auto* tabs = qobject_cast<QTabBar*>(control))
-            for (int tab = 0; tab < tabs->count(); ++tab)
-                text += tabs->tabText(tab) + " (" + tabs->tabToolTip(tab) + ") ";
-        const QString names = control->toolTip() + "|" + control->accessibleName();
-        const bool ownedByToolkit =
-            control->objectName().startsWith("qt_") || qobject_cast<QTabBar*>(control->parent()) != nullptr;
-        if (!ownedByToolkit && (text + names).size() > 1)
-            all += control->objectName() + ": " + text + "|" + names;
-    }
-    return all.join("; ").simplified().toStdString();
+inline std::string TextOf(QObject& window, const std::string& control) {
+    return Find(window, control).property("text").toString().toStdString();
 }
-
-/// The content of a file of this folder, which tells all wordings of a window in lines of any length.
-inline std::string Told(const std::string& file) {
-    std::ifstream text(WINDOWS "/" + file);
-    return QString::fromStdString({std::istreambuf_iterator<char>(text), {}}).simplified().toStdString();
-}
-
+/// The name of the control that has the focus.
 inline std::string Focused(const QWidget& window) {
     return window.focusWidget() == nullptr ? "" : window.focusWidget()->objectName().toStdString();
 }
+/// What is selected in the text box that has the focus; "" in any other control.
+inline std::string SelectedText(const QWidget& window) {
+    const auto* box = qobject_cast<QLineEdit*>(window.focusWidget());
+    return box == nullptr ? "" : box->selectedText().toStdString();
+}
+
 /// Types into whatever has the focus.
-inline void Type(const QString& text) {
-    QTest::keyClicks(QApplication::focusWidget(), text);
+inline void Type(const std::string& text) {
+    QTest::keyClicks(QApplication::focusWidget(), QString::fromStdString(text));
 }
 inline void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-}
-inline void HoldEnterDown() {
-    QTest::simulateEvent(QApplication::focusWidget(), true, Qt::Key_Return, {}, "\r", true);
 }
 inline void Click(QWidget& window, const std::string& name) {
     auto& control = Find(window, name);
     // Where an option button, a check box and a button alike take a click.
     QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(10, control.height() / 2));
 }
+/// Replaces the text of a box.
+inline void Fill(QWidget& window, const std::string& name, const std::string& text) {
+    Find<LineBox>(window, name).TakeFocus();
+    Press(Qt::Key_Delete);
+    Type(text);
+}
 /// The controls at which the Tab key stops, from the one that has the focus.
-inline std::string TabStops(QWidget& window) {
-    std::string stops;
+inline Texts TabStops(QWidget& window) {
+    Texts stops;
     const QWidget* const first = window.focusWidget();
     do {
-        stops += (stops.empty() ? "" : " ") + Focused(window);
+        stops.push_back(Focused(window));
         Press(Qt::Key_Tab);
-    } while (window.focusWidget() != first && stops.size() < 1000);
+    } while (window.focusWidget() != first && stops.size() < 100);
     return stops;
+}
+
+/// Every label and button has room for its text.
+inline void ExpectNothingClipped(const QWidget& window) {
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        const std::string name = label->objectName().toStdString();
+        if (label->wordWrap())
+            EXPECT_LE(label->heightForWidth(label->width()), label->height()) << name;
+        else
+            EXPECT_LE(label->sizeHint().width(), label->width()) << name;
+    }
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>())
+        EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()), button->width())
+            << button->objectName().toStdString();
+}
+/// Every control that takes the focus has a name for assistive programs.
+inline void ExpectNamesForAssistivePrograms(const QWidget& window) {
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        const std::string name = control->objectName().toStdString();
+        const bool ownedByToolkit = name.empty() || name.starts_with("qt_");
+        if (ownedByToolkit || control->focusPolicy() == Qt::NoFocus)
+            continue;
+        const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(control);
+        EXPECT_NE(told->text(QAccessible::Name).toStdString(), "") << name;
+    }
 }
 
 class WindowTest : public testing::Test {
@@ -112,12 +119,12 @@ class WindowTest : public testing::Test {
             }
         });
         open();
-        EXPECT_TRUE(ran);
+        EXPECT_TRUE(ran) << "no window opened";
     }
-    /// The only message, "report" for the report of an error.
+    /// The only unread message, "" when there is none.
     std::string Message() {
         const std::string text = desktop.messages.Take();
-        return text.starts_with("Error Description: ") ? "report" : text;
+        return text.starts_with("Error Description: ") ? ErrorReport : text;
     }
 
     FakeDesktop desktop;
@@ -127,13 +134,14 @@ class WindowTest : public testing::Test {
 
 class MainFormTest : public WindowTest {
   protected:
+    /// Opens the main window after a last run with these settings.
     void Open(const SettingsText& saved) {
         desktop.files.Contents[SavedPath] = BytesOf(saved);
-        Open();
+        OpenWithWhatIsSaved();
     }
-    void Open() {
-        form = std::make_unique<MainForm>(desktop.platform, dialog, outputDialog);
-        form->Open();
+    void OpenWithWhatIsSaved() {
+        form = MakeMainForm(desktop.platform, dialog, outputDialog);
+        QCoreApplication::processEvents();
         BringToFront();
     }
     /// As a desktop does at the opening and when a window in front has closed.
@@ -143,43 +151,42 @@ class MainFormTest : public WindowTest {
     }
     FlexGridWidget& Grid() { return Find<FlexGridWidget>(*form, "GroupNameGrid"); }
     LineBox& TempTxt() { return Find<LineBox>(*form, "TempTxt"); }
-    LineBox& SampSizeTxt() { return Find<LineBox>(*form, "SampSizeTxt"); }
     QScrollBar& Bar() { return Find<QScrollBar>(*form, "nogHsb"); }
+
+    /// The names in the grid, of group 1 first.
+    Texts Names() {
+        Texts names;
+        for (std::int16_t group = 1; group < Grid().rowCount(); ++group)
+            names.push_back(Grid().TextMatrix(group, 1));
+        return names;
+    }
     void Choose(const std::string& item) { Find<QAction>(*form, item).trigger(); }
-    /// Chooses an item whose prompt is answered, or cancelled. Returns the only message.
-    std::string Choose(const std::string& item, const std::optional<std::string>& answer) {
-        dialog.Answers = {answer};
+    /// Chooses an item and a file in its prompt. Returns the only message.
+    std::string ChooseFile(const std::string& item, const std::string& path) {
+        dialog.Answers = {path};
         Choose(item);
         EXPECT_EQ(desktop.files.Open, 0);
         return Message();
     }
     std::string Load(const std::string& bytes) {
-        desktop.files.Contents["/l.stg"] = bytes;
-        return Choose("mnuFile_0", "/l.stg");
+        desktop.files.Contents["/load.stg"] = bytes;
+        return ChooseFile("mnuFile_0", "/load.stg");
     }
     /// What "Save Settings" writes.
     std::string Saved() {
-        EXPECT_EQ(Choose("mnuFile_1", "/s.stg"), "Settings were saved successfully!");
-        return desktop.files.Contents["/s.stg"];
+        EXPECT_EQ(ChooseFile("mnuFile_1", "/save.stg"), "Settings were saved successfully!");
+        return desktop.files.Contents["/save.stg"];
     }
-    void TypeSampleSize(const QString& text) {
-        SampSizeTxt().TakeFocus();
-        Press(Qt::Key_Delete);
-        Type(text);
-    }
-    /// Runs a command and, in the options window that it opens, a script or a press of a button.
+    /// Runs a command and, in the options window that it opens, a script.
     void WithOptions(const std::function<void()>& command, const std::function<void(QDialog&)>& script) {
         BringToFront();
         WhileOpen(command, script);
         BringToFront();
     }
-    void WithOptions(const std::function<void()>& command, const std::string& button) {
-        WithOptions(command, [&](QDialog& window) { Click(window, button); });
-    }
 
     const std::string SavedPath = "/program/saved.stg";
     const std::string Loaded = "Settings were loaded successfully!";
-    std::unique_ptr<MainForm> form;
+    std::unique_ptr<QMainWindow> form;
 };
 
 } // namespace orvane

@@ -1,0 +1,42 @@
+#include "forms/about_form.h"
+
+#include "windows.h"
+
+namespace orvane {
+namespace {
+
+struct AboutBox : WindowTest {
+    void Open(const std::function<void(QDialog&)>& script) {
+        WhileOpen([this] { ShowAboutForm(desktop.platform, owner); }, script);
+    }
+    QWidget owner;
+};
+
+TEST_F(AboutBox, ClipsNoTextAndNamesItsControls) {
+    Open([](QDialog& window) {
+        ExpectNothingClipped(window);
+        ExpectNamesForAssistivePrograms(window);
+        EXPECT_EQ(TabStops(window), (Texts{"cmdOK", "cmdSysInfo"}));
+        EXPECT_EQ(Find<QLabel>(window, "picIcon").pixmap().size(), QSize(32, 32));
+        window.close();
+    });
+}
+
+TEST_F(AboutBox, ClosesAtOKEnterAndEscape) {
+    Open([](QDialog& window) { Click(window, "cmdOK"); });
+    Open([](QDialog&) { Press(Qt::Key_Return); });
+    Open([](QDialog&) { Press(Qt::Key_Escape); });
+}
+
+TEST_F(AboutBox, StartsTheSystemInformationByEnter) {
+    Open([this](QDialog& window) {
+        Press(Qt::Key_Tab);
+        Press(Qt::Key_Return);
+        EXPECT_EQ(Message(), "System Information Is Unavailable At This Time");
+        EXPECT_TRUE(window.isVisible());
+        window.close();
+    });
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,56 @@
+#include "forms/flex_grid_widget.h"
+
+#include "windows.h"
+
+#include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace orvane {
+namespace {
+
+struct FlexGrid : WindowTest {
+    FlexGrid() {
+        grid.setColumnCount(2);
+        grid.SetRows(4);
+        grid.resize(200, 120);
+        grid.show();
+    }
+    /// What a person reads over the cell of row 1 with this text; "" when no tool tip shows.
+    std::string ToolTipOver(const std::string& text) {
+        grid.SetRow(1);
+        grid.SetText(text);
+        QToolTip::hideText();
+        const QPoint place = grid.visualRect(grid.model()->index(1, 1)).center();
+        QHelpEvent hover(QEvent::ToolTip, place, grid.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(grid.viewport(), &hover);
+        QTextDocument tip;
+        tip.setHtml(QToolTip::text());
+        return tip.toPlainText().toStdString();
+    }
+
+    FlexGridWidget grid;
+};
+
+TEST_F(FlexGrid, ShowsATextThatIsTooLongForItsCellInATip) {
+    EXPECT_EQ(ToolTipOver("short"), "");
+    EXPECT_EQ(ToolTipOver("doses < 5 mg & <b>placebo</b> for all of them"),
+              "doses < 5 mg & <b>placebo</b> for all of them");
+    EXPECT_EQ(ToolTipOver(std::string(1500, '<')), std::string(1000, '<'));
+}
+
+TEST_F(FlexGrid, IsNotClickedByLessThanAPressAndAReleaseOfTheLeftButtonInside) {
+    int clicks = 0;
+    QObject::connect(&grid, &FlexGridWidget::Click, [&] { ++clicks; });
+    const QPoint inside(100, 50);
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, inside);
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, QPoint(-9, -9));
+    EXPECT_EQ(clicks, 0) << "released outside";
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, inside);
+    EXPECT_EQ(clicks, 0) << "pressed outside";
+    QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, inside);
+    EXPECT_EQ(clicks, 0) << "another button";
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,120 @@
+// The grid of names and the text box above it, in the main window.
+#include "forms/group_name_editor.h"
+
+#include "windows.h"
+
+namespace orvane {
+namespace {
+
+struct GroupNames : MainFormTest {
+    void OpenWithGroups(const Texts& names) { Open({.Groups = names, .SampleSize = "12"}); }
+    void ClickCell(int row, int column) {
+        QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, Cell(row, column).center());
+    }
+    QRect Cell(int row, int column) { return Grid().visualRect(Grid().model()->index(row, column)); }
+    /// Drags the bar of the number of groups over these positions and releases it at the last.
+    void DragTheBarOver(std::initializer_list<int> positions) {
+        Bar().setSliderDown(true);
+        for (const int position : positions)
+            Bar().setSliderPosition(position);
+        Bar().setSliderDown(false);
+    }
+};
+
+TEST_F(GroupNames, FollowTheBarThroughItsKeys) {
+    struct Row {
+        const char* what;
+        Qt::Key key;
+        std::size_t groups;
+        std::string lastName;
+    };
+    const Row rows[] = {
+        {"Left at the start", Qt::Key_Left, 2, ""},    {"Right", Qt::Key_Right, 3, "Group 3"},
+        {"Page Down", Qt::Key_PageDown, 4, "Group 4"}, {"Left", Qt::Key_Left, 3, "Group 3"},
+        {"End", Qt::Key_End, 16, "Group 16"},          {"Right at the end", Qt::Key_Right, 16, "Group 16"}};
+    OpenWithGroups({"", ""});
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        QTest::keyClick(&Bar(), row.key);
+        EXPECT_EQ(Names().size(), row.groups);
+        EXPECT_EQ(Names().back(), row.lastName);
+        EXPECT_EQ(TextOf(*form, "nogLbl"), std::to_string(row.groups));
+    }
+    for (std::int16_t group = 1; group <= 16; ++group)
+        EXPECT_EQ(Grid().TextMatrix(group, 0), std::to_string(group));
+}
+
+TEST_F(GroupNames, BecomeDefaultsWhereTheyAreEmptyWhenTheCountChanges) {
+    OpenWithGroups({"A", "", " ", "D"});
+    DragTheBarOver({2, 16, 4});
+    EXPECT_EQ(Names(), (Texts{"A", "", " ", "D"})) << "the count is the same at the end of the drag";
+    DragTheBarOver({3});
+    EXPECT_EQ(Names(), (Texts{"A", "Group 2", " "}));
+    DragTheBarOver({4});
+    EXPECT_EQ(Names(), (Texts{"A", "Group 2", " ", "Group 4"}));
+}
+
+TEST_F(GroupNames, AreNotChangedByTypingRightAfterAChangeOfTheCount) {
+    OpenWithGroups({"Verum", "Placebo"});
+    Bar().setValue(3);
+    TempTxt().TakeFocus();
+    EXPECT_EQ(TempTxt().Text(), "");
+    Type("x");
+    EXPECT_EQ(Names(), (Texts{"Verum", "Placebo", "Group 3"}));
+    EXPECT_EQ(TempTxt().selectedText(), "Verum") << "the name of group 1, to be replaced by the next key";
+    Type("yz");
+    EXPECT_EQ(Names()[0], "yz");
+}
+
+TEST_F(GroupNames, AreTypedOverAfterAClickInTheirRowOrInTheTopRow) {
+    OpenWithGroups({"Verum", "Placebo"});
+    ClickCell(2, 0);
+    EXPECT_EQ(Focused(*form), "TempTxt");
+    EXPECT_EQ(TempTxt().selectedText(), "Placebo");
+    Type("xy ");
+    EXPECT_EQ(Names(), (Texts{"Verum", "xy "}));
+    ClickCell(0, 1);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Names(), (Texts{"", "xy "}));
+}
+
+TEST_F(GroupNames, AreReachedWithTheKeysOfTheGridWhichKeepsTheFocus) {
+    struct Row {
+        const char* what;
+        Qt::Key key;
+        int row;
+    };
+    const Row rows[] = {{"Home", Qt::Key_Home, 1},
+                        {"Up on the first row", Qt::Key_Up, 1},
+                        {"Down", Qt::Key_Down, 2},
+                        {"Right", Qt::Key_Right, 2},
+                        {"End", Qt::Key_End, 16},
+                        {"Down on the last row", Qt::Key_Down, 16},
+                        {"Page Down on the last row", Qt::Key_PageDown, 16},
+                        {"Up", Qt::Key_Up, 15},
+                        {"a letter", Qt::Key_A, 15}};
+    OpenWithGroups({"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15", "16"});
+    Grid().setFocus();
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        Press(row.key);
+        EXPECT_EQ(Grid().Row(), row.row);
+        EXPECT_EQ(TempTxt().Text(), std::to_string(row.row)) << "the name in the editor";
+        EXPECT_EQ(Focused(*form), "GroupNameGrid");
+        EXPECT_TRUE(Grid().viewport()->rect().contains(Cell(row.row, 1).center())) << "not in sight";
+    }
+}
+
+TEST_F(GroupNames, AreTypedWhileTheNumberOfAStartWithoutSettingsIsCurrent) {
+    OpenWithWhatIsSaved();
+    EXPECT_EQ(Message(), ErrorReport);
+    EXPECT_EQ(Grid().Row(), 1);
+    EXPECT_EQ(Grid().Col(), 0);
+    TempTxt().TakeFocus();
+    Type("Drug");
+    EXPECT_EQ(Names(), (Texts{"Drug", ""}));
+    EXPECT_EQ(Grid().TextMatrix(1, 0), "1");
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,175 @@
+// Settings files, loaded and saved through the main window.
+#include "settings/settings_file.h"
+
+#include "windows.h"
+
+namespace orvane {
+namespace {
+
+Texts LinesOf(std::string bytes) {
+    Texts lines;
+    for (std::size_t end = 0; (end = bytes.find("\r\n")) != std::string::npos; bytes.erase(0, end + 2))
+        lines.push_back(bytes.substr(0, end));
+    return lines;
+}
+std::string BytesOfLines(const Texts& lines) {
+    std::string bytes;
+    for (const std::string& line : lines)
+        bytes += line + "\r\n";
+    return bytes;
+}
+
+/// Two set-ups of 22 lines that have no value in common but the number of groups.
+const SettingsText Before{.Groups = {"  blanks  ", "line\nfeed", "nul\0 \xE9"s},
+                          .SampleSize = "7",
+                          .CodeAlphaNum = 2,
+                          .CodeSeqRandom = 1,
+                          .CodeLength = 9,
+                          .BlockOption = 1,
+                          .EqBlockSize = "9",
+                          .UnEqBlockSize = "8",
+                          .OutputOption = 2};
+const SettingsText After{.Groups = {"Drug A", "Drug B", ""},
+                         .SampleSize = "60",
+                         .CodeAlphaNum = 1,
+                         .CodeSeqRandom = 0,
+                         .CodeLength = 4,
+                         .BlockOption = 2,
+                         .EqBlockSize = " 4 - 6 ",
+                         .UnEqBlockSize = "6,12",
+                         .OutputOption = 1};
+const Texts LinesBefore = LinesOf(BytesOf(Before));
+const Texts LinesAfter = LinesOf(BytesOf(After));
+
+struct Settings : MainFormTest {
+    Settings() { Open(Before); }
+    /// What is saved after a load of `After` of which only so many lines were taken.
+    static std::string BytesAfterLines(std::size_t taken) {
+        Texts lines = LinesBefore;
+        std::copy_n(LinesAfter.begin(), taken, lines.begin());
+        return BytesOfLines(lines);
+    }
+    void NameGroup(std::int16_t group, const std::string& name) {
+        Grid().SetRow(group);
+        Grid().SetText(name);
+    }
+};
+
+TEST_F(Settings, AreWrittenByteForByteAndReadBack) {
+    EXPECT_EQ(Saved(), BytesOf(Before));
+    EXPECT_EQ(Load(BytesOf(After)), Loaded);
+    EXPECT_EQ(Saved(), BytesOf(After));
+    EXPECT_EQ(Grid().Row(), 3) << "the last name is the current one";
+    EXPECT_EQ(Grid().Col(), 1);
+}
+
+TEST_F(Settings, AreAskedForInPromptsOfTheirOwn) {
+    dialog.Flags = 7;
+    Saved();
+    EXPECT_EQ(dialog.Shown.back(), "save 2, settings|Save Settings As...|Settings file (*.stg)|*.stg");
+    Load(BytesOf(Before));
+    EXPECT_EQ(dialog.Shown.back(), "open 2, settings|Select the Settings file|Settings file (*.stg)|*.stg");
+    EXPECT_EQ(dialog.DefaultExt, "htm");
+}
+
+/// The lines of the values, counted from 1.
+enum ValueLines : std::size_t {
+    NumberOfGroups = 2,
+    SampleSize = 8,
+    Alphabet = 10,
+    Order = 12,
+    CodeLength = 14,
+    BlockOption = 16,
+    Channel = 22
+};
+
+TEST_F(Settings, TakeAValueAsTheNumberThatItStartsWith) {
+    struct Row {
+        ValueLines line;
+        std::string text;
+        std::string saved;
+    };
+    const Row rows[] = {{NumberOfGroups, "2.6abc", "3"},
+                        {SampleSize, "1E999", "0"},
+                        {SampleSize, "", "0"},
+                        {Alphabet, "-1.5", "-2"},
+                        {CodeLength, "32766.5", "32766"},
+                        {BlockOption, "&HFFFF", "65535"},
+                        {Channel, "1.5", "2"}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE("line " + std::to_string(row.line) + ": " + row.text);
+        Load(BytesOf(Before));
+        Texts lines = LinesAfter;
+        lines[row.line - 1] = row.text;
+        EXPECT_EQ(Load(BytesOfLines(lines)), Loaded);
+        lines[row.line - 1] = row.saved;
+        EXPECT_EQ(Saved(), BytesOfLines(lines));
+    }
+}
+
+TEST_F(Settings, EndTheLoadAtAValueOutOfRange) {
+    struct Row {
+        ValueLines line;
+        std::string text;
+    };
+    const Row rows[] = {{NumberOfGroups, "1"},  {NumberOfGroups, "16.6"}, {NumberOfGroups, "40000"},
+                        {Order, "-2147483649"}, {CodeLength, "32767.5"},  {Channel, "3"},
+                        {Channel, "-1"}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE("line " + std::to_string(row.line) + ": " + row.text);
+        Load(BytesOf(Before));
+        Texts lines = LinesAfter;
+        lines[row.line - 1] = row.text;
+        EXPECT_EQ(Load(BytesOfLines(lines)), ErrorReport);
+        EXPECT_EQ(Saved(), BytesAfterLines(row.line - 1));
+    }
+}
+
+TEST_F(Settings, ThatNoFileCanHoldAreRefusedBeforeTheFileIsTouched) {
+    for (const char* name : {"line end \r", "not in the code page \u2265"}) {
+        NameGroup(1, name);
+        desktop.files.Contents["/save.stg"] = "kept";
+        EXPECT_EQ(ChooseFile("mnuFile_1", "/save.stg"), ErrorReport) << name;
+        EXPECT_EQ(desktop.files.Contents["/save.stg"], "kept") << name;
+    }
+}
+
+TEST_F(Settings, AreHeldUpToTheByteByTheLargestFile) {
+    NameGroup(1, "");
+    const std::size_t room = SettingsFile::LargestFile - Saved().size();
+    NameGroup(1, std::string(room, 'x'));
+    const std::string largest = Saved();
+    EXPECT_EQ(largest.size(), SettingsFile::LargestFile);
+    EXPECT_EQ(Load(largest), Loaded);
+    NameGroup(1, std::string(room + 1, 'x'));
+    EXPECT_EQ(ChooseFile("mnuFile_1", "/save.stg"), ErrorReport);
+    EXPECT_EQ(Load(BytesOf({.Groups = {std::string(SettingsFile::LargestFile, 'x'), ""}})), ErrorReport);
+}
+
+TEST_F(Settings, ThatNoLineCanHoldAreReplacedAtTheEndOfTheProgram) {
+    NameGroup(1, "a\u2265\rb");
+    form->close();
+    EXPECT_NE(desktop.messages.Take().find("were saved as \"?\": \"\u2265\" (U+2265), a line end\r\n"),
+              std::string::npos);
+    EXPECT_EQ(LinesOf(desktop.files.Contents[SavedPath])[3], "a??b");
+}
+
+TEST_F(Settings, ReportAFailureOfTheirFileOnce) {
+    for (const char* call : {"OpenForOutput", "Write", "Close"}) {
+        desktop.files.Fails = {call};
+        EXPECT_EQ(ChooseFile("mnuFile_1", "/save.stg"), ErrorReport) << call;
+    }
+}
+
+TEST_F(Settings, AreNotTouchedByAPromptThatIsCancelled) {
+    desktop.files.Log.clear();
+    for (const std::string item : {"mnuFile_0", "mnuFile_1"}) {
+        dialog.Answers = {std::nullopt};
+        Choose(item);
+        EXPECT_EQ(Message(), "") << item;
+    }
+    EXPECT_EQ(desktop.files.Log, Texts{});
+}
+
+} // namespace
+} // namespace orvane

@@ -1,0 +1,123 @@
+#include "platform/qt/qt_common_dialog.h"
+
+#include "fakes/faults.h"
+#include "modal_windows.h"
+
+#include <QTest>
+#include <QtWidgets>
+
+namespace orvane {
+namespace {
+
+constexpr const char* ListFilter = "htm file (*.htm)|*.htm|Text file (*.txt)|*.txt";
+
+/// Prompts that start in a folder with the files "list", "list.htm" and "other.txt" and the folder "below".
+class Prompts : public ModalWindowsTest {
+  protected:
+    Prompts() {
+        start.Path = home.path();
+        prompt.Filter = ListFilter;
+        prompt.Flags = CommonDialog::OverwritePrompt;
+        for (const char* const name : {"list", "list.htm", "other.txt"})
+            EXPECT_TRUE(QFile(home.filePath(name)).open(QIODevice::WriteOnly));
+        EXPECT_TRUE(QDir(home.path()).mkdir("below"));
+    }
+
+    [[nodiscard]] std::string PathOf(const std::string& name) const {
+        return home.filePath(QString::fromStdString(name)).toStdString();
+    }
+    static QLineEdit& NameBox(QFileDialog& dialog) { return *dialog.findChild<QLineEdit*>(); }
+    static void SelectEntry(QFileDialog& dialog, Qt::Key firstOrLast) {
+        QTest::keyClick(dialog.findChild<QComboBox*>("fileTypeCombo"), firstOrLast);
+    }
+    static void PressButton(QFileDialog& dialog, QDialogButtonBox::StandardButton button) {
+        dialog.findChild<QDialogButtonBox*>()->button(button)->click();
+    }
+    static void Save(QFileDialog& dialog, const QString& name) {
+        NameBox(dialog).setText(name);
+        PressButton(dialog, QDialogButtonBox::Save);
+    }
+    /// Answers the next save prompt with this name and the selected entry, the first or the last.
+    void AnswerNext(const std::string& name, Qt::Key firstOrLast = Qt::Key_Home) {
+        InNext<QFileDialog>([name, firstOrLast](QFileDialog& dialog) {
+            SelectEntry(dialog, firstOrLast);
+            Save(dialog, QString::fromStdString(name));
+        });
+    }
+
+    QTemporaryDir home;
+    PromptFolder start;
+    QtCommonDialog prompt{start, input, ending};
+};
+
+TEST_F(Prompts, GiveATypedNameTheExtensionOfTheSelectedEntry) {
+    struct Row {
+        const char* what;
+        std::string filter;
+        std::string typed;
+        Qt::Key entry;
+        std::string chosen;
+    };
+    const Row rows[] = {
+        {"the first entry", ListFilter, "new", Qt::Key_Home, "new.htm"},
+        {"the last entry", ListFilter, "Größe $x", Qt::Key_End, "Größe $x.txt"},
+        {"a name with an extension", ListFilter, "new.html", Qt::Key_Home, "new.html"},
+        {"a name with a dot at its end", ListFilter, "new.", Qt::Key_Home, "new."},
+        {"an entry for all files", "All files|*.*", "new", Qt::Key_Home, "new.htm"},
+        {"an entry with two patterns", "Settings|*.stg;*.set", "new", Qt::Key_Home, "new.stg"},
+        {"no entries", "", "new", Qt::Key_Home, "new.htm"}};
+    for (const Row& row : rows) {
+        AnswerNext(row.typed, row.entry);
+        prompt.Filter = row.filter;
+        prompt.ShowSave();
+        EXPECT_EQ(prompt.FileName, PathOf(row.chosen)) << row.what;
+    }
+}
+
+TEST_F(Prompts, AskWithItsFullNameBeforeAFileIsReplacedAndComeBackAfterANo) {
+    AnswerNext("list");
+    InNext<QMessageBox>([this](QMessageBox& question) {
+        EXPECT_NE(question.text().toStdString().find(PathOf("list.htm") + " "), std::string::npos);
+        question.button(QMessageBox::No)->click();
+        InNext<QFileDialog>([this](QFileDialog& again) {
+            EXPECT_EQ(NameBox(again).text(), "list.htm");
+            InNext<QMessageBox>([](QMessageBox& second) { second.button(QMessageBox::Yes)->click(); });
+            Save(again, "other.txt");
+        });
+    });
+    prompt.ShowSave();
+    EXPECT_EQ(prompt.FileName, PathOf("other.txt"));
+}
+
+TEST_F(Prompts, OpenExistingFilesUnderTheNameAsTyped) {
+    for (const char* const name : {"list", "other.txt"}) {
+        InNext<QFileDialog>([name](QFileDialog& dialog) {
+            PressButton(dialog, QDialogButtonBox::Open);
+            EXPECT_TRUE(dialog.isVisible()) << "there is no file \"output\"";
+            NameBox(dialog).setText(name);
+            PressButton(dialog, QDialogButtonBox::Open);
+        });
+        prompt.FileName = "output";
+        prompt.ShowOpen();
+        EXPECT_EQ(prompt.FileName, PathOf(name));
+    }
+}
+
+TEST_F(Prompts, StartWhereTheLastOneEndedAndKeepTheirNameAtACancel) {
+    AnswerNext("below/x");
+    prompt.ShowSave();
+    for (const std::string& offered : {std::string("y.txt"), PathOf("gone/y.txt")}) {
+        InNext<QFileDialog>([this](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.directory().absolutePath(), home.filePath("below"));
+            EXPECT_EQ(NameBox(dialog).text(), "y.txt");
+            NameBox(dialog).setText("typed");
+            PressButton(dialog, QDialogButtonBox::Cancel);
+        });
+        prompt.FileName = offered;
+        EXPECT_EQ(fakes::FailureOf([this] { prompt.ShowSave(); }).Number, failure_number::Cancelled);
+        EXPECT_EQ(prompt.FileName, offered);
+    }
+}
+
+} // namespace
+} // namespace orvane
