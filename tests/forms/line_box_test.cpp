@@ -41,7 +41,7 @@ TEST_F(LineBoxTest, TakesOfAPastedTextTheFirstLineAlone) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
         box.SetText(row.before);
-        EXPECT_EQ(box.Text(), row.before) << "the program's text is taken to the letter";
+        EXPECT_EQ(box.Text(), row.before) << "a text of the program stays as it is";
         box.setCursorPosition(row.cursor);
         box.setSelection(row.cursor, row.selected);
         QGuiApplication::clipboard()->setText(QString::fromStdString(row.pasted));
