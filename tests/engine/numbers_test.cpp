@@ -30,6 +30,7 @@ TEST(NumericValue, IsThatOfTheLongestBeginningThatIsANumber) {
         {"an exponent without digits", 1, {"1e", "1e+"}},
         {"a point at the end", 5, {"5.", "5.x"}},
         {"other characters behind it", 12, {"12abc", "12.0.3", "12."}},
+        {"a letter of a base without its mark", 1, {"1H5", "1O5"}},
         {"not the blanks that are ignored", 1, {"1\r2", "1\u00a02"}},
         {"blanks inside", 42, {"4 2", " \t\n4\n2", "0.042 e + 3"}},
         {"leading zeros", 1, {std::string(100'000, '0') + "1", "0.01e2"}},
