@@ -20,7 +20,6 @@ struct Sources {
 struct Run {
     std::string Version; ///< that the program shows in its About box
     std::string Started; ///< date and time of the validation
-    bool Quick = false;
     std::vector<Row> Facts;
     std::vector<Row> Files;  ///< the delivered ones: name, bytes, SHA-256
     std::vector<Row> Mapped; ///< files that the running program has mapped: name, folder, SHA-256

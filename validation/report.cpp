@@ -100,13 +100,13 @@ QString FirstChapters(const Record& record, const Run& run) {
                    "</h1><h2>1. Conclusion and identity</h2>";
     for (const std::string& line : Conclusion(record))
         html += Paragraph("<b>" + Escaped(line) + "</b>");
-    if (run.Quick)
+    if (record.Quick)
         html += Paragraph("<b>Quick form, with fewer lists and smaller samples. File a full validation.</b>");
     std::vector<Row> rows;
     for (const Requirement& requirement : Requirements()) {
         rows.push_back({requirement.Identifier, requirement.Text, ""});
-        for (const Check& check : record.Checks())
-            if (check.Requirement == requirement.Identifier)
+        for (const Check& check : record.Checks)
+            if (check.Requirement() == requirement.Identifier)
                 rows.back()[2] +=
                     (rows.back()[2].empty() ? "" : ", ") + check.Identifier + " " + check.Result();
     }
@@ -125,15 +125,17 @@ QString FirstChapters(const Record& record, const Run& run) {
 QString ChapterOf(const Record& record, const ChapterHead& head) {
     std::vector<Row> rows;
     QString exhibits;
-    for (const Check& check : record.Checks()) {
+    for (const Check& check : record.Checks) {
         if (check.Place != head.Place)
             continue;
         rows.push_back({check.Identifier, check.Title, check.Result()});
         for (const std::string& fault : check.Faults)
             rows.push_back({"", fault, ""});
+        if (!check.Comparisons.empty())
+            exhibits += Table({check.Identifier + ": expected and observed",
+                               {"What", "Expected", "Observed", "Result"},
+                               check.Comparisons});
         for (Exhibit exhibit : check.Exhibits) {
-            if (exhibit.Rows.empty() && !exhibit.Head.empty())
-                continue;
             exhibit.Text = check.Identifier + ": " + exhibit.Text;
             exhibits += exhibit.Head.empty() ? Paragraph(Escaped(exhibit.Text)) : Table(exhibit);
         }
@@ -179,15 +181,15 @@ void Print(QTextDocument& document, QPdfWriter& writer, const QString& footer) {
 
 std::vector<std::string> Conclusion(const Record& record) {
     std::vector<std::string> lines = {""};
-    for (const Check& check : record.Checks())
+    for (const Check& check : record.Checks)
         if (!check.Faults.empty())
             lines.push_back("Chapter " + std::to_string(static_cast<int>(check.Place)) + ", " +
                             check.Identifier + " " + check.Title + ": " + check.Faults.front());
     for (const Requirement& requirement : Requirements())
-        if (std::ranges::count(record.Checks(), requirement.Identifier, &Check::Requirement) == 0)
+        if (std::ranges::count(record.Checks, requirement.Identifier, &Check::Requirement) == 0)
             lines.push_back("Requirement " + requirement.Identifier + " has no check.");
     lines.front() = std::string("Conclusion: ") + (lines.size() == 1 ? "PASSED, " : "FAILED, ") +
-                    std::to_string(record.Checks().size()) + " checks";
+                    std::to_string(record.Checks.size()) + " checks";
     return lines;
 }
 
@@ -212,19 +214,19 @@ QByteArray RecordPdf(const Record& record, const Run& run) {
     const QString title = "Validation record of Orvane Software " + QString::fromStdString(run.Version);
     writer.setTitle(title);
     Print(document, writer,
-          title + (run.Quick ? ", quick form, " : ", ") + QString::fromStdString(run.Started));
+          title + (record.Quick ? ", quick form, " : ", ") + QString::fromStdString(run.Started));
     return bytes;
 }
 
 QByteArray RecordJson(const Record& record, const Run& run) {
     QJsonArray checks;
-    for (const Check& check : record.Checks())
+    for (const Check& check : record.Checks)
         checks.append(QJsonObject{{"identifier", QString::fromStdString(check.Identifier)},
                                   {"title", QString::fromStdString(check.Title)},
                                   {"result", QString::fromStdString(check.Result())}});
     return QJsonDocument(QJsonObject{{"version", QString::fromStdString(run.Version)},
                                      {"date", QString::fromStdString(run.Started)},
-                                     {"quick", run.Quick},
+                                     {"quick", record.Quick},
                                      {"conclusion", Conclusion(record).size() == 1 ? "passed" : "failed"},
                                      {"checks", checks}})
         .toJson();

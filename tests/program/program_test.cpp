@@ -41,7 +41,7 @@ class EnterTest : public ProgramTest, public testing::WithParamInterface<const c
 
 TEST_P(EnterTest, TakesTheOptionsFromATextBox) {
     user.KeepSettings({.SampleSize = "12", .BlockOption = 1, .EqBlockSize = "6"});
-    user.StartProgram(GetParam());
+    user.StartProgram({{"XDG_CURRENT_DESKTOP", GetParam()}});
     user.FocusOn(MainTitle, "Save settings on exit");
     user.OpenOptions();
     user.Fill(OptionsTitle, "Size of Equal Blocks", "4");

@@ -11,8 +11,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::chrono::milliseconds Glance{10};
-
 /// The text without its line end.
 std::string Line(std::string text) {
     if (text.ends_with('\n'))
@@ -32,13 +30,10 @@ std::shared_ptr<GSubprocess> Spawn(GSubprocessLauncher* launcher, const Words& w
     for (const std::string& word : words)
         pointers.push_back(word.c_str());
     pointers.push_back(nullptr);
-    GError* error = nullptr;
+    g_autoptr(GError) error = nullptr;
     GSubprocess* started = g_subprocess_launcher_spawnv(launcher, pointers.data(), &error);
-    if (started == nullptr) {
-        const std::string why = error->message;
-        g_error_free(error);
-        throw Fault(words.front() + " does not start: " + why);
-    }
+    if (started == nullptr)
+        throw Fault(words.front() + " does not start: " + error->message);
     return {started, g_object_unref};
 }
 
@@ -152,9 +147,9 @@ void Desktop::Type(const std::string& text) const {
     Do({"xdotool", "type", "--delay", "4", "--", text});
 }
 
-void Desktop::Point(const Box& box) const {
-    Do({"xdotool", "mousemove", std::to_string(box.X + box.Width / 2),
-        std::to_string(box.Y + box.Height / 2)});
+void Desktop::Point(const AtspiRect& place) const {
+    Do({"xdotool", "mousemove", std::to_string(place.x + place.width / 2),
+        std::to_string(place.y + place.height / 2)});
 }
 
 void Desktop::Click(int times) const {
@@ -186,14 +181,13 @@ std::optional<std::string> Desktop::TryRun(Words words) {
     words.insert(words.begin(), {"timeout", "--foreground", "60"});
     const auto launcher = Launcher(G_SUBPROCESS_FLAGS_STDOUT_PIPE | G_SUBPROCESS_FLAGS_STDERR_SILENCE);
     const auto child = Spawn(launcher.get(), words);
-    GBytes* output = nullptr;
+    g_autoptr(GBytes) output = nullptr;
     g_subprocess_communicate(child.get(), nullptr, nullptr, &output, nullptr, nullptr);
     std::string text;
     if (output != nullptr) {
         gsize size = 0;
         const void* bytes = g_bytes_get_data(output, &size);
         text.assign(static_cast<const char*>(bytes), size);
-        g_bytes_unref(output);
     }
     return g_subprocess_get_successful(child.get()) != FALSE ? std::optional(text) : std::nullopt;
 }

@@ -23,6 +23,8 @@ struct Fault : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+constexpr std::chrono::milliseconds Glance{10}; ///< between two looks of a wait
+
 using Words = std::vector<std::string>;
 /// Variables of a program's environment and their values.
 using Environment = std::map<std::string, std::string>;
@@ -92,8 +94,8 @@ class Desktop {
     /// Presses keys, given by names such as "ctrl+Tab", one after the other in the control with the focus.
     void Press(const Words& keys) const;
     void Type(const std::string& text) const;
-    /// Moves the mouse pointer to the middle of `box`.
-    void Point(const Box& box) const;
+    /// Moves the mouse pointer to the middle of `place`.
+    void Point(const AtspiRect& place) const;
     /// Clicks where the mouse pointer is.
     void Click(int times = 1) const;
 

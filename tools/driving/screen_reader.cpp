@@ -102,15 +102,11 @@ bool ScreenReader::Any(const std::string& title, const std::function<bool(const 
         AllWindows(root_), [&](const Node& window) { return NameOf(window) == title && Walk(window, look); });
 }
 
-Box ScreenReader::PlaceOf(const Control& control) {
+AtspiRect ScreenReader::PlaceOf(const Control& control) {
     const auto component = Own(atspi_accessible_get_component_iface(control.Node.get()));
-    AtspiRect* place =
+    g_autofree AtspiRect* place =
         component ? atspi_component_get_extents(component.get(), ATSPI_COORD_TYPE_SCREEN, nullptr) : nullptr;
-    if (place == nullptr)
-        return {};
-    const Box box{place->x, place->y, place->width, place->height};
-    g_free(place);
-    return box;
+    return place == nullptr ? AtspiRect{} : *place;
 }
 
 bool ScreenReader::Focus(const Control& control) {

@@ -10,14 +10,6 @@
 
 namespace orvane::driving {
 
-/// A rectangle on the display, in pixels.
-struct Box {
-    int X = 0;
-    int Y = 0;
-    int Width = 0;
-    int Height = 0;
-};
-
 /// A visible control, in the state at the time of the look.
 struct Control {
     std::string Role; ///< such as "push button" or "label"
@@ -39,8 +31,8 @@ class ScreenReader {
     /// returns true. Returns whether it returned true.
     bool Any(const std::string& title, const std::function<bool(const Control&)>& look) const;
 
-    /// The rectangle of a control; empty if the control no longer exists.
-    [[nodiscard]] static Box PlaceOf(const Control& control);
+    /// The rectangle of a control on the display, in pixels; empty if the control no longer exists.
+    [[nodiscard]] static AtspiRect PlaceOf(const Control& control);
     /// Asks a control to take the focus. Returns false if this kind of control refuses.
     static bool Focus(const Control& control);
 

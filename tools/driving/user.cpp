@@ -10,7 +10,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int MostSteps = 40;
-constexpr std::chrono::milliseconds Glance{10};
 
 /// Does something until it shows its effect, a few times at most. Returns whether it did.
 bool Repeat(const std::function<void()>& act, const std::function<bool()>& effect) {
@@ -86,6 +85,20 @@ void User::Fill(const std::string& title, const std::string& name, const std::st
     if (!text.empty())
         desktop_.Type(text);
     AwaitText(title, name, text);
+}
+
+void User::Press(const std::string& title, const std::string& name, const Words& keys) {
+    FocusOn(title, name);
+    desktop_.Press(keys);
+}
+
+void User::NameGroups(const std::vector<std::string>& names) {
+    Press(MainTitle, "Group Names", Words(names.size(), "Up"));
+    for (const std::string& name : names) {
+        Fill(MainTitle, "Group Name", name);
+        Find(MainTitle, "table cell", name);
+        Press(MainTitle, "Group Names", {"Down"});
+    }
 }
 
 void User::Click(const std::string& title, const std::string& role, const std::string& name, int times) {

@@ -41,8 +41,6 @@ class User {
 
     /// Starts the program. A message that it shows at the start is left open.
     void StartProgram(const Environment& variables = {}) { desktop_.Start(Folder() / "orvane", variables); }
-    /// Starts the program as on the desktop `kind`, such as "GNOME" or "KDE".
-    void StartProgram(const std::string& kind) { StartProgram(Environment{{"XDG_CURRENT_DESKTOP", kind}}); }
     /// Ends the program with the menu of its main window and returns its exit code.
     int Exit();
 
@@ -57,8 +55,13 @@ class User {
     /// Gives the focus to the control with this name.
     /// Requires: the window is active or becomes active.
     void FocusOn(const std::string& title, const std::string& name);
+    /// Gives the focus to the control with this name, and presses keys.
+    void Press(const std::string& title, const std::string& name, const Words& keys = {"space"});
     /// Replaces the text of the text box with this name.
     void Fill(const std::string& title, const std::string& name, const std::string& text);
+    /// Types the names into the group name grid.
+    /// Requires: the number of groups is that of the names.
+    void NameGroups(const std::vector<std::string>& names);
     /// Clicks in the middle of a control.
     void Click(const std::string& title, const std::string& role, const std::string& name, int times = 1);
 

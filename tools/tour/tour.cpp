@@ -111,12 +111,6 @@ class Tour {
         Judge(ReadFile(list));
     }
 
-    /// Presses a button of the output window.
-    void PressInOutput(const char* button) {
-        user_.FocusOn(OutputTitle, button);
-        desktop_.Press({"space"});
-    }
-
     void Start() {
         user_.StartProgram();
         user_.Find(MainTitle, "table cell", "Group 2");
@@ -131,48 +125,35 @@ class Tour {
             Take(Window{"root", ""}, "menu-" + items.front());
             desktop_.Press(Words(4, "Escape"));
         }
-        user_.FocusOn(MainTitle, "Generate Random List");
-        desktop_.Press({"Return"});
+        user_.Press(MainTitle, "Generate Random List", {"Return"});
         Meet("please specify the sample size", "refusal");
     }
 
     void NameTheGroups() {
-        user_.FocusOn(MainTitle, "Number of Groups");
-        desktop_.Press({"Right"});
+        user_.Press(MainTitle, "Number of Groups", {"Right"});
         user_.Find(MainTitle, "label", "3");
         user_.Fill(MainTitle, "Sample Size", Trial.SampleSize);
-        user_.FocusOn(MainTitle, "Group Names");
-        desktop_.Press({"Up", "Up", "Up"});
-        for (const std::string& group : Trial.Groups) {
-            user_.Fill(MainTitle, "Group Name", group);
-            user_.Find(MainTitle, "table cell", group);
-            user_.FocusOn(MainTitle, "Group Names");
-            desktop_.Press({"Down"});
-        }
+        user_.NameGroups(Trial.Groups);
         Take(user_.AwaitMain(), "main-window-filled-in");
     }
 
     /// Starts a generation and sets options in all four tabs.
     void SetOptions() {
         const Window options = user_.OpenOptions();
-        const auto press = [&](const char* control, const Words& keys) {
-            user_.FocusOn(OptionsTitle, control);
-            desktop_.Press(keys);
-        };
-        press("Only one block", {"Down", "shift+Tab", "Down"});
+        user_.Press(OptionsTitle, "Only one block", {"Down", "shift+Tab", "Down"});
         desktop_.Type(Trial.UnEqBlockSize);
         Take(options, "options-blocks");
         desktop_.Press({"ctrl+Tab"});
-        press("Numeric", {"Down"});
-        press("Sequential", {"Down"});
-        press("Length", {"Right"});
+        user_.Press(OptionsTitle, "Numeric", {"Down"});
+        user_.Press(OptionsTitle, "Sequential", {"Down"});
+        user_.Press(OptionsTitle, "Length", {"Right"});
         user_.Find(OptionsTitle, "label", "4");
         Take(options, "options-code");
         desktop_.Press({"ctrl+Tab"});
         user_.Find(OptionsTitle, "label", "Columns");
         Take(options, "options-format");
         desktop_.Press({"ctrl+Tab"});
-        press("Runs test on generated sequence", {"space"});
+        user_.Press(OptionsTitle, "Runs test on generated sequence", {"space"});
         Take(options, "options-statistics");
         desktop_.Press({"Return"});
         desktop_.AwaitGone(options);
@@ -207,9 +188,9 @@ class Tour {
         user_.Generate();
         const Window output = desktop_.Await(OutputTitle);
         Take(output, "output-window");
-        PressInOutput("Save");
+        user_.Press(OutputTitle, "Save");
         const fs::path copy = Answer(SaveOutputTitle, "output-save-prompt", "window.txt");
-        PressInOutput("Close");
+        user_.Press(OutputTitle, "Close");
         desktop_.AwaitGone(output);
         MeetRunsTest(copy);
     }
@@ -238,7 +219,7 @@ class Tour {
         const fs::path list = Answer(RandomFileTitle, "random-file-prompt", "list.txt");
         const Window output = desktop_.Await(OutputTitle);
         Take(output, "saved-list");
-        PressInOutput("Close");
+        user_.Press(OutputTitle, "Close");
         desktop_.AwaitGone(output);
         Demand(fs::exists(list), "list.txt is gone after the look at it");
     }
@@ -258,11 +239,9 @@ class Tour {
 
     /// Saves a picture of a web page in a browser.
     void TakePage(const fs::path& page, const std::string& file) {
-        const fs::path picture = desktop_.Folder() / file;
         Desktop::Run({"chromium", "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars",
-                      "--window-size=1000,1400", "--screenshot=" + picture.string(),
+                      "--window-size=1000,1400", "--screenshot=" + (album_ / file).string(),
                       "file://" + page.string()});
-        fs::copy_file(picture, album_ / file);
     }
 
     Desktop& desktop_;

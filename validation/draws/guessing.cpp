@@ -1,4 +1,7 @@
-#include "validation/draws/guessing.h"
+// How often an investigator guesses the next assignment right with the convergence strategy of Blackwell and
+// Hodges (1957): always name the group with the fewest assignments so far. The investigator sees every
+// earlier assignment, does not know where blocks end, and names any of the groups that have the fewest.
+#include "validation/checks.h"
 
 #include <QString>
 
@@ -61,31 +64,28 @@ const std::vector<BlockPlan> Plans = {
     {"random sizes, 18 to 33", 3, {18, 21, 21, 24, 24, 27, 27, 30, 30, 33}},
 };
 
-std::string Decimals(double value) {
-    return QString::number(value, 'f', 4).toStdString();
-}
-
 } // namespace
 
 void CheckGuessing(Record& record) {
-    const auto check = [](Evidence& evidence) {
+    const auto decimals = [](double value) { return QString::number(value, 'f', 4).toStdString(); };
+    const auto judge = [&](Check& check) {
         // m + 2^(2m - 1) / C(2m, m) - 1/2, the formula of Blackwell and Hodges for a block of 2m.
-        evidence.Compare("Share of right guesses in a block of 12, by the published formula",
-                         Decimals((6 + 2048.0 / 924 - 0.5) / 12), Decimals(RightShare({12}, 2)));
+        check.Compare("Share of right guesses in a block of 12, by the published formula",
+                      decimals((6 + 2048.0 / 924 - 0.5) / 12), decimals(RightShare({12}, 2)));
         std::vector<Row> rows;
-        for (const BlockPlan& plan : Plans) {
-            const double share = RightShare(plan.Sizes, plan.Groups);
-            rows.push_back(
-                {plan.Option, std::to_string(plan.Groups), Decimals(1.0 / plan.Groups), Decimals(share)});
-        }
-        evidence.Table({"Block option", "Groups", "Right by chance", "Right with the strategy"}, rows,
-                       "Shares of the assignments, calculated exactly");
-        evidence.Paragraph(
-            "Only an investigator who is not blinded can count. Small blocks of one size are the "
-            "easiest to guess; listed sizes hide the ends of the blocks; random sizes and one "
-            "block are the hardest, but the groups can differ more while the trial is running.");
+        for (const auto& [option, groups, sizes] : Plans)
+            rows.push_back({option, std::to_string(groups), decimals(1.0 / groups),
+                            decimals(RightShare(sizes, groups))});
+        check.Exhibits = {
+            {"Shares of the assignments, calculated exactly",
+             {"Block option", "Groups", "Right by chance", "Right with the strategy"},
+             rows},
+            {"Only an investigator who is not blinded can count. Small blocks of one size are the easiest to "
+             "guess; listed sizes hide the ends of the blocks; random sizes and one block are the hardest, "
+             "but "
+             "the groups can differ more while the trial is running."}};
     };
-    record.Run("CON-5.1", "How often an investigator guesses the next assignment", Chapter::Guessing, check);
+    record.Run("CON-5.1", "How often an investigator guesses the next assignment", Chapter::Guessing, judge);
 }
 
 } // namespace orvane::validation

@@ -9,7 +9,6 @@
 #include <array>
 #include <bit>
 #include <cstdint>
-#include <filesystem>
 #include <string>
 
 namespace orvane::validation {
@@ -28,27 +27,27 @@ inline Key KeyNumber(std::uint32_t number) {
 }
 
 /// The program's clock stands still at TimeOfLists, while the key comes from the operating system.
-inline driving::Environment WithStandingClock(const std::filesystem::path& library) {
-    return {{"LD_PRELOAD", library.string()}, {"KNOWN_TIME", std::to_string(StandingTime)}};
+inline driving::Environment WithStandingClock() {
+    return {{"LD_PRELOAD", KNOWN_KEY}, {"KNOWN_TIME", std::to_string(StandingTime)}};
 }
 
 /// The program's clock stands still, and it gets this key.
-inline driving::Environment WithKey(const std::filesystem::path& library, const Key& key) {
+inline driving::Environment WithKey(const Key& key) {
     const auto bytes = std::bit_cast<std::array<char, sizeof(Key)>>(key);
-    driving::Environment variables = WithStandingClock(library);
+    driving::Environment variables = WithStandingClock();
     variables["KNOWN_KEY"] = QByteArray(bytes.data(), sizeof(Key)).toHex().toStdString();
     return variables;
 }
 
 /// The operating system gives the program no entropy.
-inline driving::Environment WithoutEntropy(const std::filesystem::path& library) {
-    return {{"LD_PRELOAD", library.string()}, {"NO_ENTROPY", "1"}};
+inline driving::Environment WithoutEntropy() {
+    return {{"LD_PRELOAD", KNOWN_KEY}, {"NO_ENTROPY", "1"}};
 }
 
 /// The local time of day, in seconds since midnight, at which the clock stands.
 inline float TimeOfLists() {
     const QTime time = QDateTime::fromSecsSinceEpoch(StandingTime).time();
-    return static_cast<float>(QTime(0, 0).secsTo(time));
+    return static_cast<float>(time.msecsSinceStartOfDay()) / 1000;
 }
 
 } // namespace orvane::validation

@@ -4,7 +4,6 @@
 
 #include "validation/draws/known_key.h"
 #include "validation/lists/reader.h"
-#include "validation/record.h"
 
 #include <deque>
 #include <string>
@@ -12,22 +11,20 @@
 
 namespace orvane::validation {
 
-/// A list as the second program makes it.
-struct PredictedList {
-    std::string Bytes;
-    std::string RunsMessage; ///< lines ended by LF; empty if the Runs test is off
-    validation::Blocks Blocks;
-    std::vector<int> Shuffles; ///< of each block; more than 1 if the Runs test rejected an arrangement
-    int CodesDrawnAgain = 0;   ///< because the list had them already
-};
+/// z of the Runs test of a sequence, after Wald and Wolfowitz (1940): a run is a longest sequence of numbers
+/// that are all below the mean, or all at or above it.
+float RunsTest(const std::vector<int>& numbers);
+
+/// What the program calls the P value: the standard normal density at z.
+float HeightOfNormalCurve(float z);
 
 class SecondProgram {
   public:
     /// Starts as the program does with this key, before its first list.
-    SecondProgram(const Key& key, float secondsOfDay);
+    explicit SecondProgram(const Key& key);
 
     /// The next list of this start. As in the program, it depends on the lists made before.
-    PredictedList Make(const ListSetup& setup);
+    Prediction Make(const ListSetup& setup);
 
     using Words = std::array<std::uint32_t, 16>;
 
@@ -37,18 +34,14 @@ class SecondProgram {
     /// From 0 to `highest`.
     std::size_t Draw(std::size_t highest);
     std::vector<int> BlockSizes(const ListSetup& setup);
-    std::vector<std::string> Codes(const ListSetup& setup, std::size_t count, int& drawnAgain);
+    std::vector<std::string> Codes(const ListSetup& setup, std::size_t count, std::size_t& drawnAgain);
     void Shuffle(std::vector<int>& groups);
 
-    Words input_; ///< of the cipher's next block
-    float secondsOfDay_;
+    Words input_;               ///< of the cipher's next block
     std::deque<double> values_; ///< made, and not used yet
 };
 
-/// Where the list or its message differs from the prediction; empty if they are equal to the byte.
-std::string DifferenceFrom(const PredictedList& predicted, const MadeList& list);
-
-/// The check CON-1.1: the published figures beside those of the second program.
-void CheckSecondProgram(Record& record);
+/// Where a list differs from its prediction; empty if they are equal to the byte.
+std::string DifferenceFromPrediction(const MadeList& list);
 
 } // namespace orvane::validation

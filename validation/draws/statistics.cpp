@@ -1,5 +1,6 @@
 #include "validation/draws/statistics.h"
 
+#include "validation/checks.h"
 #include "validation/draws/known_key.h"
 
 #include <boost/math/distributions/non_central_chi_squared.hpp>
@@ -8,17 +9,24 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
+#include <optional>
 #include <stdexcept>
 
 namespace orvane::validation {
 namespace {
 
-using Use = std::function<void(const std::string&)>;
-
 /// The probability that a right program fails one statistic with a P value.
 constexpr double FalseAlarm = 2e-8;
 constexpr double Missed = 0.01; ///< probability that the smallest fault is not found
+
+std::string Decimals(double value, int decimals) {
+    return QString::number(value, 'f', decimals).toStdString();
+}
+
+/// Two significant digits, the same in every locale: "2.5e-07".
+std::string Significant(double value) {
+    return QString::number(value, 'g', 2).toStdString();
+}
 
 int RunsOf(const std::string& block) {
     int runs = 1;
@@ -27,74 +35,79 @@ int RunsOf(const std::string& block) {
     return runs;
 }
 
-/// A result of a block, perhaps by the block before it.
-using ResultOf = std::string (*)(const std::string& block, const std::string& before);
-
-std::string Arrangement(const std::string& block, const std::string& /*before*/) {
-    return block;
+/// A letter of a text with its place.
+std::string Placed(std::size_t place, char letter) {
+    return {static_cast<char>('a' + place), letter};
 }
 
-/// A result at one of several places.
-std::string Placed(std::size_t place, char result) {
-    return {static_cast<char>('a' + place), result};
+Texts Arrangement(std::span<const std::string> texts) {
+    return {texts.back()};
 }
 
-std::string Size(const std::string& block, const std::string& /*before*/) {
-    return Placed(0, static_cast<char>(block.size()));
+Texts Size(std::span<const std::string> texts) {
+    return {Placed(0, static_cast<char>(texts.back().size()))};
+}
+
+Texts Letters(std::span<const std::string> texts) {
+    Texts letters;
+    for (const char letter : texts.back())
+        letters.push_back(Placed(letters.size(), letter));
+    return letters;
 }
 
 /// The number of runs. Numbers that are rare are counted together, at both ends.
-std::string Runs(const std::string& block, const std::string& /*before*/) {
+Texts Runs(std::span<const std::string> texts) {
     constexpr int fewest = 6;
-    return std::to_string(std::clamp(RunsOf(block), fewest, static_cast<int>(block.size()) + 2 - fewest));
+    const int most = static_cast<int>(texts.back().size()) + 2 - fewest;
+    return {std::to_string(std::clamp(RunsOf(texts.back()), fewest, most))};
 }
 
-/// The number of positions at which both blocks have the first group.
-std::string Agreement(const std::string& block, const std::string& before) {
+/// The number of positions at which a block and the one before it have the first group.
+Texts Agreement(std::span<const std::string> texts) {
+    if (texts.size() == 1)
+        return {};
+    const std::string& before = texts[texts.size() - 2];
     int both = 0;
-    for (std::size_t at = 0; at < std::min(block.size(), before.size()); ++at)
-        both += block[at] == 'A' && before[at] == 'A' ? 1 : 0;
-    return std::to_string(both);
+    for (std::size_t at = 0; at < before.size(); ++at)
+        both += before[at] == 'A' && texts.back().at(at) == 'A' ? 1 : 0;
+    return {std::to_string(both)};
+}
+
+Texts Repetition(std::span<const std::string> texts) {
+    return {std::ranges::count(texts, texts.back()) == 1 ? "new" : "again"};
 }
 
 /// The law of blocks whose arrangements are equally likely. All arrangements are counted, the block before
 /// each being one that has just been dealt.
-template <ResultOf resultOf>
-Law LawOfBlocks(const ListSetup& setup) {
+Law LawOfBlocks(const ListSetup& setup, ResultsOf resultsOf) {
+    const double size = setup.EqualSize;
     const std::string dealt = Dealt(setup.EqualSize, setup.GroupCount());
-    const bool tested = setup.RunsTest();
     Law law;
     double all = 0;
-    double passing = 0;
     std::string block = dealt;
     std::ranges::sort(block);
     do {
-        ++all;
         // In the sample with the Runs test only four runs have a P value above the level.
-        if (!tested || RunsOf(block) == 4) {
-            ++passing;
-            ++law.Results[resultOf(block, dealt)].Right;
-        }
+        if (!setup.RunsTest() || RunsOf(block) == 4)
+            for (const std::string& result : resultsOf(Texts{dealt, block})) {
+                ++all;
+                ++law.Results[result];
+            }
     } while (std::ranges::next_permutation(block).found);
-    for (auto& [result, chance] : law.Results)
-        chance = {chance.Right / passing, tested ? chance.Right / all : 0};
-    if (!tested)
-        law.Results[resultOf(dealt, dealt)].Faulty = 1;
+    for (auto& [result, probability] : law.Results)
+        probability /= all;
     law.Freedom = static_cast<double>(law.Results.size()) - 1;
+    if (resultsOf == Letters) {
+        // Each block contains each group equally often, so one position follows from the others.
+        law.Freedom = (size - 1) * (setup.GroupCount() - 1);
+        law.Factor = (size - 1) / size;
+    }
     return law;
 }
 
-template <ResultOf resultOf>
-void CountBlocks(const Sample& sample, const Use& use) {
-    const std::string dealt = Dealt(sample.Setup.EqualSize, sample.Setup.GroupCount());
-    for (const LongList& list : sample.Lists)
-        for (auto block = list.Blocks.begin(); block != list.Blocks.end(); ++block)
-            use(resultOf(*block, block == list.Blocks.begin() ? dealt : *(block - 1)));
-}
-
 /// The law of the sizes of blocks, or of each place of a code: the two ends are half as likely as each result
-/// between them. In draws with the fault they are as likely.
-Law HalfAtTheEnds(const ListSetup& setup) {
+/// between them.
+Law HalfAtTheEnds(const ListSetup& setup, ResultsOf /*resultsOf*/) {
     const bool areSizes = setup.Blocks == BlockOption::Listed;
     const std::string sizes(setup.ListedSizes.begin(), setup.ListedSizes.end());
     const std::string results = areSizes ? sizes : CharactersOf(setup.Characters);
@@ -104,56 +117,40 @@ Law HalfAtTheEnds(const ListSetup& setup) {
     for (std::size_t place = 0; static_cast<double>(place) < places; ++place)
         for (const char result : results) {
             const bool isEnd = result == results.front() || result == results.back();
-            const double right = (isEnd ? 0.5 : 1) / (count - 1);
-            law.Results[Placed(place, result)] = {right / places, 1 / count / places};
+            law.Results[Placed(place, result)] = (isEnd ? 0.5 : 1) / (count - 1) / places;
         }
     law.Freedom = places * (count - 1);
     return law;
 }
 
-Law LawOfPositions(const ListSetup& setup) {
-    Law law;
-    const double size = setup.EqualSize;
-    const double groups = setup.GroupCount();
-    for (std::size_t position = 0; position < static_cast<std::size_t>(setup.EqualSize); ++position)
-        for (const char group : Dealt(setup.GroupCount(), setup.GroupCount())) {
-            const double faulty = group == 'A' ? 0 : group == 'B' ? 2 : 1;
-            law.Results[Placed(position, group)] = {1 / groups / size, faulty / groups / size};
-        }
-    // Each block contains each group equally often, so one position follows from the others.
-    law.Freedom = (size - 1) * (groups - 1);
-    law.Factor = (size - 1) / size;
-    return law;
+Law NothingTwice(const ListSetup& /*setup*/, ResultsOf /*resultsOf*/) {
+    return {.Results = {{"new", 1}}};
 }
 
-/// Counts each letter of the blocks or of the codes with its place.
-template <std::vector<std::string> LongList::*texts>
-void CountLetters(const Sample& sample, const Use& use) {
-    for (const LongList& list : sample.Lists)
-        for (const std::string& text : list.*texts)
-            for (std::size_t place = 0; place < text.size(); ++place)
-                use(Placed(place, text[place]));
+/// How often each result occurs.
+std::unordered_map<std::string, double> Counts(const Statistic& statistic, const Sample& sample) {
+    std::unordered_map<std::string, double> counts;
+    const std::span<const std::string> texts = sample.*statistic.Fault.Place;
+    for (std::size_t text = 1; text <= texts.size(); ++text)
+        for (const std::string& result : statistic.Results(texts.first(text)))
+            ++counts[result];
+    return counts;
 }
 
-Law NothingTwice(const ListSetup& /*setup*/) {
-    return {.Results = {{"new", {1, 0}}}};
-}
-
-void CountLists(const Sample& sample, const Use& use) {
-    std::set<std::vector<std::string>> lists;
-    for (const LongList& list : sample.Lists)
-        use(lists.insert(list.Blocks).second ? "new" : "again");
-}
-
-/// The share of faulty draws that shifts the counts so far that chi-square passes `limit`, or that shows by a
-/// result that is impossible, whichever is smaller.
-double SmallestShare(const Law& law, double draws, double limit) {
+/// The share of faulty draws that shifts the counts so far that the statistic fails with 99 per cent, or that
+/// shows so often by a result that is impossible, whichever is smaller. A sample in which every draw is
+/// faulty gives their distribution.
+double SmallestShare(const Statistic& statistic, const Sample& sample, double draws) {
+    const Law law = statistic.LawOf(sample.Setup, statistic.Results);
+    auto faulty = Counts(statistic, Planted(statistic.Fault, 1, sample));
     double shift = 0; // of Pearson's statistic by each draw, when all are faulty
     double impossible = 1;
-    for (const auto& [result, chance] : law.Results) {
-        shift += law.Factor * std::pow(chance.Faulty - chance.Right, 2) / chance.Right;
-        impossible -= chance.Faulty;
+    for (const auto& [result, right] : law.Results) {
+        const double share = faulty[result] / draws;
+        shift += law.Factor * std::pow(share - right, 2) / right;
+        impossible -= share;
     }
+    const double limit = quantile(complement(boost::math::chi_squared(law.Freedom), FalseAlarm));
     using boost::math::non_central_chi_squared;
     const double needed = non_central_chi_squared::find_non_centrality(law.Freedom, limit, Missed);
     const double share = std::sqrt(needed / (draws * shift));
@@ -161,118 +158,133 @@ double SmallestShare(const Law& law, double draws, double limit) {
     return impossible < rounding ? share : std::min(share, (1 - std::pow(Missed, 1 / draws)) / impossible);
 }
 
-enum SampleKind : std::size_t {
-    OfFour,
-    OfSix,
-    OfSixInThree,
-    OfTwelve,
-    OfTwenty,
-    OfSizes,
-    OfTested,
-    OfStarts
-};
+const Fault LeftAsDealt = {"blocks left as they are dealt", 0.05, &Sample::Blocks, [](const Spot& at) {
+                               at.Text = Dealt(at.Setup.EqualSize, at.Setup.GroupCount());
+                           }};
 
-/// As many equal blocks as a list can have.
-ListSetup Blocks(int size, const std::vector<std::string>& groups, Alphabet characters, bool randomCodes) {
-    ListSetup setup;
-    setup.Blocks = BlockOption::Equal;
-    setup.EqualSize = size;
+const Fault GivenToB = {"subjects of group A given to group B", 0.1, &Sample::Blocks,
+                        [](const Spot& at) { std::ranges::replace(at.Text, 'A', 'B'); }};
+
+const Fault LevelSizes = {"sizes drawn with the ends as likely as the others", 0.5, &Sample::Blocks,
+                          [](const Spot& at) {
+                              const std::vector<int>& sizes = at.Setup.ListedSizes;
+                              at.Text = Dealt(sizes.at(at.Random() % sizes.size()), at.Setup.GroupCount());
+                          }};
+
+const Fault LevelCharacters = {"characters drawn with the ends as likely as the others", 0.2, &Sample::Codes,
+                               [](const Spot& at) {
+                                   const std::string characters = CharactersOf(at.Setup.Characters);
+                                   for (char& character : at.Text)
+                                       character = characters.at(at.Random() % characters.size());
+                               }};
+
+const Fault CopiedBlock = {"blocks copied from the one before", 0.05, &Sample::Blocks,
+                           [](const Spot& at) { at.Text = at.Before; }};
+
+const Fault RepeatedList = {"lists that another start has made", 0, &Sample::Blocks, CopiedBlock.Change};
+
+const Fault NotTested = {"blocks not tested", 0.05, &Sample::Blocks,
+                         [](const Spot& at) { std::ranges::shuffle(at.Text, at.Random); }};
+
+enum SampleKind : std::size_t { OfFour, OfSix, OfSixInThree, OfEight, OfTwenty, OfSizes, OfTested, OfStarts };
+
+/// As many equal blocks as a list can have, with random codes of these characters if there are any.
+ListSetup Blocks(int size, int groups, std::optional<Alphabet> characters) {
+    ListSetup setup{.Blocks = BlockOption::Equal, .CodeLength = 10, .EqualSize = size};
     setup.SampleSize = (32767 / size - 1) * size; // there is always one block more than fits into it
-    setup.Groups = groups;
-    setup.Characters = characters;
-    setup.RandomCodes = randomCodes;
-    setup.CodeLength = 10;
+    setup.Groups.clear();
+    for (const char group : Dealt(groups, groups))
+        setup.Groups.emplace_back(1, group);
+    setup.RandomCodes = characters.has_value();
+    setup.Characters = characters.value_or(Alphabet::Digits);
     return setup;
 }
 
 /// The samples in the order of SampleKind, without their lists.
 std::vector<Sample> Designs() {
-    ListSetup listed = Blocks(4, {"A", "B"}, Alphabet::Digits, false);
+    ListSetup listed = Blocks(4, 2, std::nullopt);
     listed.Blocks = BlockOption::Listed;
     listed.ListedSizes = {4, 6, 8, 10, 12};
     listed.ListedSizesText = "4,6,8,10,12";
     listed.SampleSize = 32767 - listed.ListedSizes.back();
-    ListSetup tested = Blocks(6, {"A", "B"}, Alphabet::Digits, false);
+    ListSetup tested = Blocks(6, 2, std::nullopt);
     tested.Level = "0.3";
-    ListSetup oneBlock;
-    oneBlock.SampleSize = 60;
     return {
-        {Blocks(4, {"A", "B"}, Alphabet::Mixed, true), 50, 6},
-        {Blocks(6, {"A", "B"}, Alphabet::Letters, true), 50, 6},
-        {Blocks(6, {"A", "B", "C"}, Alphabet::Digits, true), 50, 6},
-        {Blocks(12, {"A", "B", "C", "D"}, Alphabet::Digits, false), 24, 4},
-        {Blocks(20, {"A", "B"}, Alphabet::Digits, false), 30, 6},
+        {Blocks(4, 2, Alphabet::Mixed), 50, 6},
+        {Blocks(6, 2, Alphabet::Letters), 50, 6},
+        {Blocks(6, 3, Alphabet::Digits), 50, 6},
+        {Blocks(8, 4, std::nullopt), 24, 4},
+        {Blocks(20, 2, std::nullopt), 30, 6},
         {listed, 15, 3},
         {tested, 16, 5},
-        {oneBlock, 6, 3},
+        {ListSetup{.SampleSize = 60}, 6, 3},
     };
 }
 
-LongList KeptOf(const MadeList& list) {
-    if (!list.Readable() || !list.Unreadable.empty())
-        throw std::runtime_error("a list could not be made or read: " + list.NotMade + list.Unreadable);
-    LongList kept;
+/// Keeps the blocks of a list, and its codes if they are random.
+void Keep(const MadeList& list, Sample& sample) {
+    if (!list.HasItsForm)
+        throw std::runtime_error("a list could not be made or read: " + list.NotMade);
     for (const std::vector<Subject>& block : list.Blocks) {
-        std::string& groups = kept.Blocks.emplace_back();
+        std::string& groups = sample.Blocks.emplace_back();
         for (const Subject& subject : block) {
             groups += static_cast<char>('A' + subject.Group - 1);
             if (list.Setup.RandomCodes)
-                kept.Codes.push_back(subject.Code);
+                sample.Codes.push_back(subject.Code);
         }
     }
-    return kept;
 }
 
-std::vector<Sample> MakeSamples(Session& session, const std::filesystem::path& library, const Scale& scale) {
+std::vector<Sample> MakeSamples(Session& session, const Record& record) {
     std::vector<Sample> samples = Designs();
     for (std::size_t kind = 0; kind < samples.size(); ++kind) {
         Sample& sample = samples[kind];
         sample.Setup.Number = 101 + static_cast<int>(kind); // behind the other lists of the record
         sample.Setup.Output = Form::Clipboard;              // faster than a file
         sample.Setup.Columns = 1;
-        for (int list = 0; list < scale.Of(sample.FullLists, sample.QuickLists); ++list) {
+        for (int list = 0; list < record.Size(sample.FullLists, sample.QuickLists); ++list) {
             if (kind == OfStarts)
-                session.Restart(sample.Setup, WithStandingClock(library));
+                session.Restart(sample.Setup, WithStandingClock());
             else if (list == 0)
                 session.Restart(sample.Setup);
-            sample.Lists.push_back(KeptOf(session.Make(sample.Setup)));
+            Keep(session.Make(sample.Setup), sample);
         }
     }
     session.Stop();
     return samples;
 }
 
-std::vector<Verdict> JudgeAll(Evidence& evidence, const std::vector<Sample>& samples) {
+std::vector<Verdict> JudgeAll(Check& check, const std::vector<Sample>& samples) {
     std::vector<Verdict> verdicts;
     std::vector<Row> rows;
     double alarms = 0;
     for (const Statistic& statistic : AllStatistics()) {
         const Sample& sample = samples.at(statistic.Kind);
-        const double freedom = statistic.LawOf(sample.Setup).Freedom;
+        const double freedom = statistic.LawOf(sample.Setup, statistic.Results).Freedom;
         const Verdict verdict = Judge(statistic, sample);
-        const std::string draws = QLocale(QLocale::English).toString(verdict.Draws).toStdString();
-        rows.push_back({statistic.Hypothesis, draws + " " + statistic.Unit,
-                        freedom == 0 ? "none may occur" : std::to_string(std::lround(freedom)),
-                        QString::number(verdict.Value, 'f', 1).toStdString(), Significant(verdict.PValue),
-                        ShareText(verdict.SmallestShare, *statistic.Fault)});
+        const double smallest = freedom == 0 ? 0 : SmallestShare(statistic, sample, verdict.Draws);
+        const QString draws = QLocale(QLocale::English).toString(verdict.Draws, 'f', 0);
+        rows.push_back({statistic.Hypothesis, draws.toStdString() + " " + statistic.Unit,
+                        freedom == 0 ? "none may occur" : Decimals(freedom, 0), Decimals(verdict.Value, 1),
+                        Significant(verdict.PValue), ShareText(smallest, statistic.Fault)});
         alarms += freedom == 0 ? 0 : FalseAlarm;
         verdicts.push_back(verdict);
     }
-    evidence.Table({"Hypothesis", "Sample", "Degrees of freedom", "Chi-square", "P value",
-                    "Smallest fault found with 99 per cent"},
-                   rows, "The program's random choices, with the entropy of this machine");
-    evidence.Paragraph(
-        "A statistic fails at a P value of " + Significant(FalseAlarm) +
-        " or less, in the upper tail. A right program fails any of them with a probability of " +
-        Significant(alarms) +
-        ", the sum over all; with the error of the chi-square approximation, "
-        "below 1e-06. Equal lists by chance are rarer than 1e-15 and left out. At the smallest "
-        "fault, a share of faulty draws, the statistic fails with a probability of 99 per cent.");
-    evidence.Paragraph(
-        "No sample finds fewer exchanges than there should be, such as 10 N for a block of N: each "
-        "group is then already equally likely at each position to within 0.01 per cent. The known "
-        "keys of chapter 4 find it.");
-    evidence.Demand(alarms > 0 && alarms < 5e-7, "the false alarms are too likely");
+    check.Exhibits = {
+        {"The program's random choices, with the entropy of this machine",
+         {"Hypothesis", "Sample", "Degrees of freedom", "Chi-square", "P value",
+          "Smallest fault found with 99 per cent"},
+         rows},
+        {"A statistic fails at a P value of " + Significant(FalseAlarm) +
+         " or less, in the upper tail. A right program fails any of them with a probability of " +
+         Significant(alarms) +
+         ", the sum over all; with the error of the chi-square approximation, below 1e-06. Equal lists by "
+         "chance are rarer than 1e-15 and left out. At the smallest fault, a share of faulty draws, the "
+         "statistic fails with a probability of 99 per cent."},
+        {"No sample finds fewer exchanges than there should be, such as 10 N for a block of N: each group is "
+         "then already equally likely at each position to within 0.01 per cent. The known keys of chapter 4 "
+         "find it."}};
+    check.Demand(alarms > 0 && alarms < 5e-7, "the false alarms are too likely");
     return verdicts;
 }
 
@@ -280,30 +292,30 @@ std::vector<Verdict> JudgeAll(Evidence& evidence, const std::vector<Sample>& sam
 
 const std::vector<Statistic>& AllStatistics() {
     static const std::vector<Statistic> all = {
-        {"ASG-3.1", "Each arrangement of a block of 4 in 2 groups is equally likely", OfFour,
-         LawOfBlocks<Arrangement>, CountBlocks<Arrangement>, "blocks", &LeftAsDealt},
-        {"ASG-3.2", "Each arrangement of a block of 6 in 2 groups is equally likely", OfSix,
-         LawOfBlocks<Arrangement>, CountBlocks<Arrangement>, "blocks", &LeftAsDealt},
+        {"ASG-3.1", "Each arrangement of a block of 4 in 2 groups is equally likely", OfFour, LawOfBlocks,
+         Arrangement, "blocks", LeftAsDealt},
+        {"ASG-3.2", "Each arrangement of a block of 6 in 2 groups is equally likely", OfSix, LawOfBlocks,
+         Arrangement, "blocks", LeftAsDealt},
         {"ASG-3.3", "Each arrangement of a block of 6 in 3 groups is equally likely", OfSixInThree,
-         LawOfBlocks<Arrangement>, CountBlocks<Arrangement>, "blocks", &LeftAsDealt},
-        {"ASG-4.1", "Each of 4 groups is equally likely at each position of a block of 12", OfTwelve,
-         LawOfPositions, CountLetters<&LongList::Blocks>, "positions", &GivenToB},
+         LawOfBlocks, Arrangement, "blocks", LeftAsDealt},
+        {"ASG-4.1", "Each of 4 groups is equally likely at each position of a block of 8", OfEight,
+         LawOfBlocks, Letters, "positions", GivenToB},
         {"ASG-5.1", "The runs of a block of 20 in 2 groups have the law of Wald and Wolfowitz", OfTwenty,
-         LawOfBlocks<Runs>, CountBlocks<Runs>, "blocks", &LeftAsDealt},
+         LawOfBlocks, Runs, "blocks", LeftAsDealt},
         {"BLK-5.1", "Of the sizes 4, 6, 8, 10, 12 the ends are half as likely as the others", OfSizes,
-         HalfAtTheEnds, CountBlocks<Size>, "blocks", &LevelSizes},
+         HalfAtTheEnds, Size, "blocks", LevelSizes},
         {"COD-4.1", "At each place of a code A and Z are half as likely as the other letters", OfSix,
-         HalfAtTheEnds, CountLetters<&LongList::Codes>, "characters", &LevelCharacters},
+         HalfAtTheEnds, Letters, "characters", LevelCharacters},
         {"COD-4.2", "At each place of a code 0 and 9 are half as likely as the other digits", OfSixInThree,
-         HalfAtTheEnds, CountLetters<&LongList::Codes>, "characters", &LevelCharacters},
+         HalfAtTheEnds, Letters, "characters", LevelCharacters},
         {"COD-4.3", "At each place of a mixed code 0 and Z are half as likely as the others", OfFour,
-         HalfAtTheEnds, CountLetters<&LongList::Codes>, "characters", &LevelCharacters},
+         HalfAtTheEnds, Letters, "characters", LevelCharacters},
         {"CON-3.1", "A block of 6 in 2 groups agrees with the one before as often as by chance", OfSix,
-         LawOfBlocks<Agreement>, CountBlocks<Agreement>, "blocks", &CopiedBlock},
+         LawOfBlocks, Agreement, "blocks", CopiedBlock},
         {"CON-3.2", "Starts at the same time of day never make equal lists", OfStarts, NothingTwice,
-         CountLists, "lists", &RepeatedList},
+         Repetition, "lists", RepeatedList},
         {"RUN-2.2", "Of the blocks of 6 only the 8 that pass the Runs test at 0.3 occur, equally often",
-         OfTested, LawOfBlocks<Arrangement>, CountBlocks<Arrangement>, "blocks", &NotTested},
+         OfTested, LawOfBlocks, Arrangement, "blocks", NotTested},
     };
     return all;
 }
@@ -315,46 +327,35 @@ std::string Dealt(int size, int groups) {
     return block;
 }
 
-std::string Significant(double value) {
-    return QString::number(value, 'g', 2).toStdString();
-}
-
 Verdict Judge(const Statistic& statistic, const Sample& sample) {
-    const Law law = statistic.LawOf(sample.Setup);
-    std::map<std::string, std::int64_t> seen;
+    const Law law = statistic.LawOf(sample.Setup, statistic.Results);
+    auto seen = Counts(statistic, sample);
     Verdict verdict;
-    statistic.Count(sample, [&](const std::string& result) {
-        ++seen[result];
-        ++verdict.Draws;
-    });
-    const auto draws = static_cast<double>(verdict.Draws);
-    for (const auto& [result, chance] : law.Results) {
-        const double expected = chance.Right * draws;
-        verdict.Value += law.Factor * std::pow(static_cast<double>(seen[result]) - expected, 2) / expected;
+    for (const auto& [result, count] : seen)
+        verdict.Draws += count;
+    for (const auto& [result, probability] : law.Results) {
+        const double expected = probability * verdict.Draws;
+        verdict.Value += law.Factor * std::pow(seen[result] - expected, 2) / expected;
     }
     verdict.PValue = seen.size() > law.Results.size() ? 0 : 1; // an impossible result
-    if (law.Freedom > 0) {
-        const boost::math::chi_squared tail(law.Freedom);
-        verdict.PValue *= cdf(complement(tail, verdict.Value));
-        verdict.SmallestShare = SmallestShare(law, draws, quantile(complement(tail, FalseAlarm)));
-    }
+    if (law.Freedom > 0)
+        verdict.PValue *= cdf(complement(boost::math::chi_squared(law.Freedom), verdict.Value));
     verdict.Passed = verdict.PValue > FalseAlarm;
     return verdict;
 }
 
-std::vector<Sample> CheckStatistics(Record& record, Session& session, const std::filesystem::path& library,
-                                    const Scale& scale) {
+std::vector<Sample> CheckStatistics(Record& record, Session& session) {
     std::vector<Sample> samples;
     std::vector<Verdict> verdicts(AllStatistics().size());
     record.Run("ASG-6.1", "Every random choice has the documented distribution", Chapter::Statistics,
-               [&](Evidence& evidence) {
-                   samples = MakeSamples(session, library, scale);
-                   verdicts = JudgeAll(evidence, samples);
+               [&](Check& check) {
+                   samples = MakeSamples(session, record);
+                   verdicts = JudgeAll(check, samples);
                });
     for (std::size_t i = 0; i < verdicts.size(); ++i)
         record.Run(AllStatistics()[i].Identifier, AllStatistics()[i].Hypothesis, Chapter::Statistics,
-                   [&](Evidence& evidence) {
-                       evidence.Demand(verdicts[i].Passed, "P value " + Significant(verdicts[i].PValue));
+                   [&](Check& check) {
+                       check.Demand(verdicts[i].Passed, "P value " + Significant(verdicts[i].PValue));
                    });
     return samples;
 }

@@ -1,42 +1,56 @@
 // The distributions of the program's random choices, on long lists that it makes with the entropy of this
-// machine.
+// machine; and the faults that the statistics must find.
 #pragma once
 
-#include "validation/draws/planted_faults.h"
 #include "validation/lists/session.h"
-#include "validation/record.h"
 
-#include <filesystem>
-#include <functional>
-#include <map>
+#include <random>
+#include <span>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace orvane::validation {
 
-/// What is kept of a list.
-struct LongList {
-    std::vector<std::string> Blocks{}; ///< the groups of each block in list order, such as "ABBA"
-    std::vector<std::string> Codes{};  ///< none if they are sequential
-};
+using Texts = std::vector<std::string>;
 
-/// Lists of one set-up.
+/// What is kept of the lists of one set-up, in their order.
 struct Sample {
     ListSetup Setup;
     int FullLists = 0; ///< number in a full validation
     int QuickLists = 0;
-    std::vector<LongList> Lists{};
+    Texts Blocks{}; ///< the groups of each block, such as "ABBA"
+    Texts Codes{};  ///< none if they are sequential
 };
 
-/// The probabilities of one result of a draw.
-struct Chance {
-    double Right = 0;
-    double Faulty = 0; ///< if every draw had the fault of the statistic
+/// A block or a code of a sample, and the one before it.
+struct Spot {
+    std::string& Text;
+    const std::string& Before;
+    const ListSetup& Setup;
+    std::mt19937& Random;
 };
 
-/// What a right program gives. A result that is not named is impossible.
+struct Fault {
+    std::string Words;
+    double Share = 0; ///< that is planted; 0 for a single one, at the end of the sample
+    Texts Sample::*Place = nullptr;
+    void (*Change)(const Spot&) = nullptr;
+};
+
+/// "5 % of the blocks left as they are dealt"; for a share of 0 "one of the blocks".
+std::string ShareText(double share, const Fault& fault);
+
+/// Puts the fault into this share of the sample, at the same places at every run.
+Sample Planted(const Fault& fault, double share, Sample sample);
+
+/// The results of the last one of the texts that a sample has up to there.
+using ResultsOf = Texts (*)(std::span<const std::string> texts);
+
+/// What a right program gives.
 struct Law {
-    std::map<std::string, Chance> Results{};
+    std::unordered_map<std::string, double>
+        Results{}; ///< with their probabilities; any other result is impossible
     /// Degrees of freedom of Pearson's statistic. If 0, only an impossible result is a fault.
     double Freedom = 0;
     /// Factor of Pearson's statistic: less than 1 if a block settles how often a group occurs in it.
@@ -47,34 +61,24 @@ struct Statistic {
     std::string Identifier; ///< of its check
     std::string Hypothesis;
     std::size_t Kind = 0; ///< of its sample
-    Law (*LawOf)(const ListSetup&) = nullptr;
-    /// Calls the function with the result of every draw.
-    void (*Count)(const Sample&, const std::function<void(const std::string&)>&) = nullptr;
-    std::string Unit; ///< what is drawn, such as "blocks"
-    const validation::Fault* Fault = nullptr;
-};
-
-struct Verdict {
-    std::int64_t Draws = 0;
-    double Value = 0;         ///< of Pearson's statistic
-    double PValue = 0;        ///< of the upper tail: counts that are too even are no fault
-    double SmallestShare = 0; ///< of faulty draws that is found with 99 per cent; 0: a single one
-    bool Passed = false;
+    Law (*LawOf)(const ListSetup&, ResultsOf) = nullptr;
+    ResultsOf Results = nullptr;
+    std::string Unit;        ///< what is drawn, such as "blocks"
+    validation::Fault Fault; ///< at the texts that give the results
 };
 
 const std::vector<Statistic>& AllStatistics();
+
+struct Verdict {
+    double Draws = 0;
+    double Value = 0;  ///< of Pearson's statistic
+    double PValue = 0; ///< of the upper tail: counts that are too even are no fault
+    bool Passed = false;
+};
+
 Verdict Judge(const Statistic& statistic, const Sample& sample);
 
 /// A block before it is shuffled: "ABAB".
 std::string Dealt(int size, int groups);
-
-/// Two significant digits, the same in every locale: "2.5e-07".
-std::string Significant(double value);
-
-/// Makes long lists and judges them: ASG-6.1 with one table, and a check for each statistic. Returns the
-/// samples of all kinds, or none if a list could not be made. Of each kind the last list is kept as a file.
-/// `library` is that of known_key.h, for starts at one time of day.
-std::vector<Sample> CheckStatistics(Record& record, Session& session, const std::filesystem::path& library,
-                                    const Scale& scale);
 
 } // namespace orvane::validation

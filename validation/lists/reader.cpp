@@ -144,8 +144,7 @@ void ReadBack(MadeList& list) {
     list.Blocks.clear();
     for (const QString& table : tables)
         list.Blocks.push_back(SubjectsIn(table, list.Setup, pattern));
-    const bool isRight = WriteList(list.Blocks, list.Setup) == list.Bytes;
-    list.Unreadable = isRight ? "" : "the bytes of the list are not those of its form";
+    list.HasItsForm = !list.Blocks.empty() && WriteList(list.Blocks, list.Setup) == list.Bytes;
 }
 
 } // namespace orvane::validation

@@ -4,7 +4,6 @@
 
 #include "validation/lists/setup.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,10 +17,12 @@ struct Subject {
 /// The blocks of a list, each in the order of its subjects.
 using Blocks = std::vector<std::vector<Subject>>;
 
-/// What was observed of the output window.
-struct WindowSeen {
-    std::string Text;         ///< in the window, lines ended by LF
-    bool HasOnePrivateFile{}; ///< one temporary file, which only its owner can read, while it is open
+/// A list as the second program makes it.
+struct Prediction {
+    std::string Bytes;
+    std::string RunsMessage;         ///< lines ended by LF; empty if the Runs test is off
+    std::size_t Shuffles = 0;        ///< more than blocks if the Runs test rejected an arrangement
+    std::size_t CodesDrawnAgain = 0; ///< because the list had them already
 };
 
 /// A list that the program made, with everything observed about it.
@@ -29,18 +30,18 @@ struct MadeList {
     ListSetup Setup;
     std::string NotMade; ///< why there is no list; empty if there is one
     std::string Bytes;
-    std::optional<WindowSeen> Window;
-    std::string RunsMessage; ///< lines ended by LF; empty if there was none
-    std::string Unreadable;  ///< why the form is wrong; empty if every byte is right
+    std::string WindowText;   ///< of the output window, lines ended by LF
+    bool HasOnePrivateFile{}; ///< one temporary file, which only its owner can read, while that is open
+    std::string RunsMessage;  ///< lines ended by LF; empty if there was none
+    bool HasItsForm{};        ///< every byte is right
     validation::Blocks Blocks;
-
-    [[nodiscard]] bool Readable() const { return NotMade.empty() && !Blocks.empty(); }
+    Prediction Predicted; ///< only of lists from a known key
 };
 
 /// The bytes of a list with these blocks in the form of the set-up: a file, or the text on the clipboard.
 std::string WriteList(const Blocks& blocks, const ListSetup& setup);
 
-/// Sets Blocks and Unreadable from the bytes of the list. Every byte is compared with the form.
+/// Sets Blocks and HasItsForm from the bytes of the list. Every byte is compared with the form.
 void ReadBack(MadeList& list);
 
 } // namespace orvane::validation

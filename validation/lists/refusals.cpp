@@ -1,4 +1,4 @@
-#include "validation/lists/checks.h"
+#include "validation/checks.h"
 
 #include "validation/draws/known_key.h"
 
@@ -63,7 +63,7 @@ std::vector<Refusal> Refusals() {
     };
 }
 
-void CheckRefusal(Evidence& evidence, Session& session, const Refusal& refusal) {
+void CheckRefusal(Check& check, Session& session, const Refusal& refusal) {
     driving::Desktop& desktop = session.Display();
     driving::User& user = session.Person();
     session.Restart(refusal.Setup);
@@ -77,38 +77,43 @@ void CheckRefusal(Evidence& evidence, Session& session, const Refusal& refusal) 
     desktop.Press({"Return"});
     const std::string what = std::string("\"") + refusal.Typed + "\" as " + refusal.Box;
     for (const std::string& expected : refusal.Messages)
-        evidence.Compare(what, expected, session.Told());
+        check.Compare(what, expected, session.Told());
     desktop.Await(title);
-    evidence.Demand(user.Find(title, "text", refusal.Box).Text == refusal.Typed, what + " is lost");
+    check.Demand(user.Find(title, "text", refusal.Box).Text == refusal.Typed, what + " is lost");
+}
+
+void CheckInput(Check& check, Session& session) {
+    for (const Refusal& refusal : Refusals())
+        CheckRefusal(check, session, refusal);
 }
 
 /// Expects a report of a failure in the message `told`, with this text in it.
-void ExpectReport(Evidence& evidence, const std::string& what, const std::string& told,
+void ExpectReport(Check& check, const std::string& what, const std::string& told,
                   const std::string& holds = "") {
     const std::string line = told.substr(0, told.find('\n'));
     const bool isRight = line.starts_with(Report) && line.find(holds) != std::string::npos;
-    evidence.Compare(what, isRight ? line : Report + holds, line);
+    check.Compare(what, isRight ? line : Report + holds, line);
 }
 
-void CheckNoEntropy(Evidence& evidence, Session& session, const fs::path& library) {
+void CheckNoEntropy(Check& check, Session& session) {
     const fs::path file = session.Display().Folder() / "no entropy.txt";
     for (const ListSetup& setup : {ListSetup{.Output = Form::TextFile, .SampleSize = 20},
                                    ListSetup{.Output = Form::Window, .SampleSize = 20},
                                    ListSetup{.Output = Form::Clipboard, .SampleSize = 20},
                                    ListSetup{.RandomCodes = true, .SampleSize = 20}}) {
-        session.Restart(setup, WithoutEntropy(library));
+        session.Restart(setup, WithoutEntropy());
         session.Enter(setup);
         if (setup.Output == Form::TextFile && !setup.RandomCodes)
             session.Person().Answer(session.Display().Await(driving::SaveListTitle), file.string());
         const std::string codes = setup.RandomCodes ? ", random codes" : ", sequential codes";
-        ExpectReport(evidence, Text(setup.Output) + codes, session.Told());
+        ExpectReport(check, Text(setup.Output) + codes, session.Told());
         session.Person().AwaitMain();
-        evidence.Demand(driving::ReadFile(file).find("Group") == std::string::npos, "a list was written");
-        evidence.Demand(session.TemporaryFiles().empty(), "a temporary list stays");
+        check.Demand(driving::ReadFile(file).find("Group") == std::string::npos, "a list was written");
+        check.Demand(session.TemporaryFiles().empty(), "a temporary list stays");
     }
 }
 
-void CheckCharacters(Evidence& evidence, Session& session) {
+void CheckCharacters(Check& check, Session& session) {
     driving::User& user = session.Person();
     const fs::path folder = session.Display().Folder();
     const std::string name = "\u03A9";
@@ -123,17 +128,19 @@ void CheckCharacters(Evidence& evidence, Session& session) {
         session.Enter(setup);
         user.Answer(session.Display().Await(driving::SaveListTitle), file.string());
         if (file.extension() == ".txt")
-            ExpectReport(evidence, "A group \"" + name + "\" in a text file", session.Told(), name);
+            ExpectReport(check, "A group \"" + name + "\" in a text file", session.Told(), name);
         else
             user.AwaitViewer("browser", file);
         user.AwaitMain();
     }
-    evidence.Demand(!fs::exists(folder / "omega.txt"), "the text file was written");
-    evidence.Demand(driving::ReadFile(folder / "omega.htm").find("&#937;") != std::string::npos,
-                    "the web page has no reference to the character");
+    check.Demand(!fs::exists(folder / "omega.txt"), "the text file was written");
+    check.Demand(driving::ReadFile(folder / "omega.htm").find("&#937;") != std::string::npos,
+                 "the web page has no reference to the character");
 }
 
-void CheckSettings(Evidence& evidence, Session& session, const std::vector<ListSetup>& setups) {
+void CheckSettings(Check& check, Session& session) {
+    std::vector<ListSetup> setups = ReadSetups();
+    setups.resize(4);
     const fs::path given = session.Display().Folder() / "given.stg";
     const fs::path saved = session.Display().Folder() / "saved again.stg";
     session.Restart({});
@@ -141,16 +148,16 @@ void CheckSettings(Evidence& evidence, Session& session, const std::vector<ListS
         const std::string bytes = BytesOf(SettingsOf(setup));
         const std::string what = "settings of list " + std::to_string(setup.Number);
         driving::WriteFile(given, bytes);
-        evidence.Compare("Loaded: " + what, "Settings were loaded successfully!", session.Load(given));
-        evidence.Compare("Saved: " + what, "Settings were saved successfully!", session.Save(saved));
-        evidence.Demand(driving::ReadFile(saved) == bytes, what + " change when they are saved");
+        check.Compare("Loaded: " + what, "Settings were loaded successfully!", session.Load(given));
+        check.Compare("Saved: " + what, "Settings were saved successfully!", session.Save(saved));
+        check.Demand(driving::ReadFile(saved) == bytes, what + " change when they are saved");
     }
-    evidence.Demand(session.Person().Exit() == 0, "the program ends with a fault");
-    evidence.Demand(driving::ReadFile(session.Person().SavedSettings()) == BytesOf(SettingsOf(setups.back())),
-                    "the settings saved at the end of the program are different");
+    check.Demand(session.Person().Exit() == 0, "the program ends with a fault");
+    check.Demand(driving::ReadFile(session.Person().SavedSettings()) == BytesOf(SettingsOf(setups.back())),
+                 "the settings saved at the end of the program are different");
 }
 
-void CheckDamagedSettings(Evidence& evidence, Session& session) {
+void CheckDamagedSettings(Check& check, Session& session) {
     const std::string right = BytesOf(SettingsText{});
     const fs::path file = session.Display().Folder() / "damaged.stg";
     const std::vector<std::pair<const char*, std::string>> damages = {
@@ -162,30 +169,21 @@ void CheckDamagedSettings(Evidence& evidence, Session& session) {
     for (const auto& [what, bytes] : damages) {
         session.Restart({});
         driving::WriteFile(file, bytes);
-        ExpectReport(evidence, what, session.Load(file));
+        ExpectReport(check, what, session.Load(file));
     }
 }
 
 } // namespace
 
-void CheckRefusals(Record& record, Session& session, const SetupTable& table, const fs::path& library,
-                   const Scale& scale) {
-    constexpr Chapter here = Chapter::Refusals;
-    record.Run("CON-2.1", "No list without entropy", here,
-               [&](Evidence& evidence) { CheckNoEntropy(evidence, session, library); });
-    record.Run("MSG-1.1", "Input that is refused, and stays where it was typed", here,
-               [&](Evidence& evidence) {
-                   for (const Refusal& refusal : Refusals())
-                       CheckRefusal(evidence, session, refusal);
-               });
-    record.Run("REP-6.1", "A character that the code page does not hold", here,
-               [&](Evidence& evidence) { CheckCharacters(evidence, session); });
-    std::vector<ListSetup> setups = SetupsOf(table);
-    setups.resize(static_cast<std::size_t>(scale.Of(6, 2)));
-    record.Run("SET-2.1", "Settings that are loaded and saved again", here,
-               [&](Evidence& evidence) { CheckSettings(evidence, session, setups); });
-    record.Run("SET-3.1", "Damaged settings", here,
-               [&](Evidence& evidence) { CheckDamagedSettings(evidence, session); });
+void CheckRefusals(Record& record, Session& session) {
+    const auto run = [&](const char* identifier, const char* title, const auto& judge) {
+        record.Run(identifier, title, Chapter::Refusals, [&](Check& check) { judge(check, session); });
+    };
+    run("CON-2.1", "No list without entropy", CheckNoEntropy);
+    run("MSG-1.1", "Input that is refused, and stays where it was typed", CheckInput);
+    run("REP-6.1", "A character that the code page does not hold", CheckCharacters);
+    run("SET-2.1", "Settings that are loaded and saved again", CheckSettings);
+    run("SET-3.1", "Damaged settings", CheckDamagedSettings);
 }
 
 } // namespace orvane::validation

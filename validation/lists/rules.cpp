@@ -1,11 +1,11 @@
 #include "validation/lists/rules.h"
 
+#include "validation/draws/second_program.h"
+
 #include <QString>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <numbers>
 #include <set>
 
 namespace orvane::validation {
@@ -16,19 +16,6 @@ using Block = std::vector<Subject>;
 
 int Size(const Block& block) {
     return static_cast<int>(block.size());
-}
-
-int Subjects(const MadeList& list) {
-    int subjects = 0;
-    for (const Block& block : list.Blocks)
-        subjects += Size(block);
-    return subjects;
-}
-
-/// Whether the list has `least` subjects or more, and had fewer before its last block.
-bool EndsWhenItHas(const MadeList& list, int least) {
-    const int subjects = Subjects(list);
-    return subjects >= least && subjects - Size(list.Blocks.back()) < least;
 }
 
 /// Whether each group has its share of every block, and the first groups one subject more if there is a rest.
@@ -42,40 +29,41 @@ bool EvenBlocks(const MadeList& list) {
     return true;
 }
 
-bool OneBlock(const MadeList& list) {
-    return list.Blocks.size() == 1 && Subjects(list) == list.Setup.SampleSize;
+/// The sizes that a block may have.
+std::set<int> AllowedSizes(const ListSetup& setup) {
+    if (setup.Blocks == BlockOption::One)
+        return {setup.SampleSize};
+    if (setup.Blocks == BlockOption::Equal)
+        return {setup.EqualSize};
+    if (setup.Blocks == BlockOption::Listed)
+        return {setup.ListedSizes.begin(), setup.ListedSizes.end()};
+    std::set<int> sizes;
+    const int share = setup.SampleSize / setup.GroupCount() + 1;
+    for (int deals = std::max(1, share / 5); deals <= std::max(1, share / 3); ++deals)
+        sizes.insert(deals * setup.GroupCount());
+    return sizes;
 }
 
-bool EqualBlocks(const MadeList& list) {
-    const int size = list.Setup.EqualSize;
-    const int blocks = list.Setup.SampleSize / size + 1;
-    return static_cast<int>(list.Blocks.size()) == blocks &&
-           std::ranges::all_of(list.Blocks, [&](const Block& block) { return Size(block) == size; });
-}
-
-bool ListedBlocks(const MadeList& list) {
-    const auto isListed = [&](const Block& block) {
-        return std::ranges::count(list.Setup.ListedSizes, Size(block)) != 0;
-    };
-    return EndsWhenItHas(list, list.Setup.SampleSize) && std::ranges::all_of(list.Blocks, isListed);
-}
-
-bool RandomBlocks(const MadeList& list) {
-    const int groups = list.Setup.GroupCount();
-    const int share = list.Setup.SampleSize / groups + 1;
-    const int least = std::max(1, share / 5) * groups;
-    const int most = std::max(1, share / 3) * groups;
-    const auto isInRange = [&](const Block& block) {
-        return Size(block) % groups == 0 && Size(block) >= least && Size(block) <= most;
-    };
-    return EndsWhenItHas(list, list.Setup.SampleSize + 1) && std::ranges::all_of(list.Blocks, isInRange);
+/// Whether every block has an allowed size, and the list ends with the block that gives it enough subjects:
+/// the sample size, or more than that if the sizes are equal or random.
+bool BlocksAsChosen(const MadeList& list) {
+    const std::set<int> allowed = AllowedSizes(list.Setup);
+    const bool exceeds =
+        list.Setup.Blocks == BlockOption::Equal || list.Setup.Blocks == BlockOption::RandomSizes;
+    const int enough = list.Setup.SampleSize + (exceeds ? 1 : 0);
+    int subjects = 0;
+    for (const Block& block : list.Blocks) {
+        if (subjects >= enough || !allowed.contains(Size(block)))
+            return false;
+        subjects += Size(block);
+    }
+    return subjects >= enough;
 }
 
 std::vector<std::string> Codes(const MadeList& list) {
     std::vector<std::string> codes;
     for (const Block& block : list.Blocks)
-        for (const Subject& subject : block)
-            codes.push_back(subject.Code);
+        std::ranges::transform(block, std::back_inserter(codes), &Subject::Code);
     return codes;
 }
 
@@ -106,46 +94,27 @@ bool NumberedCodes(const MadeList& list) {
     return true;
 }
 
-/// The standard normal density at z, where a run is a maximal sequence of group numbers that are all below
-/// the mean of the block, or all at or above it (Wald and Wolfowitz 1940, in the normal approximation).
-double RunsTestValue(const Block& block) {
-    int sum = 0;
-    for (const Subject& subject : block)
-        sum += subject.Group;
-    double above = 0;
-    double runs = 0;
-    bool before = false;
-    for (const Subject& subject : block) {
-        const bool now = subject.Group * Size(block) >= sum;
-        if (runs == 0 || now != before)
-            ++runs;
-        above += now ? 1 : 0;
-        before = now;
-    }
-    const double count = Size(block);
-    const double twice = 2 * above * (count - above);
-    const double variance = twice * (twice - count) / (count * count * (count - 1));
-    const double z = (runs - twice / count - 1) / std::sqrt(variance);
-    return std::exp(-z * z / 2) / std::sqrt(2 * std::numbers::pi);
-}
-
 bool ValuesAboveTheLevel(const MadeList& list) {
-    const double level = std::stod(list.Setup.Level);
-    return std::ranges::all_of(list.Blocks, [&](const Block& block) { return RunsTestValue(block) > level; });
+    const float level = std::stof(list.Setup.Level);
+    return std::ranges::all_of(list.Blocks, [&](const Block& block) {
+        std::vector<int> groups(block.size());
+        std::ranges::transform(block, groups.begin(), &Subject::Group);
+        return HeightOfNormalCurve(RunsTest(groups)) > level;
+    });
 }
 
 bool HasItsForm(const MadeList& list) {
-    return list.Unreadable.empty();
+    return list.HasItsForm;
 }
 
 bool WindowShowsTheList(const MadeList& list) {
     // In the names of the set-ups every byte is the character with its number.
     const QString shown = QString::fromLatin1(QByteArray::fromStdString(list.Bytes)).remove('\r');
-    return HasItsForm(list) && list.Window && list.Window->Text == shown.toStdString();
+    return list.HasItsForm && list.WindowText == shown.toStdString();
 }
 
 bool PrivateTemporaryFile(const MadeList& list) {
-    return list.Window && list.Window->HasOnePrivateFile;
+    return list.HasOnePrivateFile;
 }
 
 template <BlockOption Option>
@@ -172,10 +141,10 @@ const std::vector<Rule>& Rules() {
     static const std::vector<Rule> rules = {
         {"ASG-1.1", "Every block holds each group equally often", isEven, EvenBlocks},
         {"ASG-2.1", "In other blocks the first groups have one more", HasRest, EvenBlocks},
-        {"BLK-1.1", "One block of the sample size", Has<BlockOption::One>, OneBlock},
-        {"BLK-2.1", "Number and size of equal blocks", Has<BlockOption::Equal>, EqualBlocks},
-        {"BLK-3.1", "Blocks of listed sizes, and their end", Has<BlockOption::Listed>, ListedBlocks},
-        {"BLK-4.1", "Blocks of random sizes, and their end", Has<BlockOption::RandomSizes>, RandomBlocks},
+        {"BLK-1.1", "One block of the sample size", Has<BlockOption::One>, BlocksAsChosen},
+        {"BLK-2.1", "Number and size of equal blocks", Has<BlockOption::Equal>, BlocksAsChosen},
+        {"BLK-3.1", "Blocks of listed sizes, and their end", Has<BlockOption::Listed>, BlocksAsChosen},
+        {"BLK-4.1", "Blocks of random sizes, and their end", Has<BlockOption::RandomSizes>, BlocksAsChosen},
         {"COD-1.1", "No code occurs twice", always, UniqueCodes},
         {"COD-2.1", "Codes have the chosen length and characters", always, WellFormedCodes},
         {"COD-3.1", "Sequential codes number the subjects", isNumbered, NumberedCodes},

@@ -1,6 +1,7 @@
 #include "validation/lists/session.h"
 
-#include <array>
+#include <QString>
+
 #include <csignal>
 
 namespace orvane::validation {
@@ -40,7 +41,8 @@ void Session::Restart(const ListSetup& setup, const driving::Environment& variab
 MadeList Session::Make(const ListSetup& setup) {
     MadeList list;
     list.Setup = setup;
-    const fs::path file = lists_ / FileName(setup);
+    const char* const name = setup.Output == Form::WebPage ? "list-%1.htm" : "list-%1.txt";
+    const fs::path file = lists_ / QString(name).arg(setup.Number, 2, 10, QChar('0')).toStdString();
     fs::remove(file);
     try {
         Enter(setup);
@@ -103,33 +105,26 @@ std::string Session::Told() {
 }
 
 void Session::TypeMainWindow(const ListSetup& setup) {
-    constexpr std::array<const char*, 4> items = {"To File", "To File", "To Window", "To Clipboard"};
-    user_.Choose({"Sequence", "Output", items.at(static_cast<std::size_t>(setup.Output))});
+    constexpr const char* items[] = {"To File", "To File", "To Window", "To Clipboard"};
+    user_.Choose({"Sequence", "Output", items[static_cast<int>(setup.Output)]});
     MoveBar(MainTitle, "Number of Groups", 2, setup.GroupCount());
     user_.Fill(MainTitle, "Sample Size", std::to_string(setup.SampleSize));
-    user_.FocusOn(MainTitle, "Group Names");
-    desktop_.Press(driving::Words(setup.Groups.size(), "Up"));
-    for (const std::string& group : setup.Groups) {
-        user_.Fill(MainTitle, "Group Name", group);
-        user_.FocusOn(MainTitle, "Group Names");
-        desktop_.Press({"Down"});
-    }
+    user_.NameGroups(setup.Groups);
     user_.FocusOn(MainTitle, "Sample Size");
 }
 
 void Session::TypeOptions(const ListSetup& setup) {
-    constexpr std::array<const char*, 4> blockButtons = {"Only one block", "Equal size", "Random sizes of",
-                                                         "Random Block Size"};
-    constexpr std::array<const char*, 3> alphabetButtons = {"Alpha", "Numeric", "Mixed"};
-    Check(blockButtons.at(static_cast<std::size_t>(setup.Blocks)));
+    constexpr const char* blocks[] = {"Only one block", "Equal size", "Random sizes of", "Random Block Size"};
+    constexpr const char* alphabets[] = {"Alpha", "Numeric", "Mixed"};
+    user_.Press(OptionsTitle, blocks[static_cast<int>(setup.Blocks)]);
     if (setup.Blocks == BlockOption::Equal)
         user_.Fill(OptionsTitle, "Size of Equal Blocks", std::to_string(setup.EqualSize));
     if (setup.Blocks == BlockOption::Listed)
         user_.Fill(OptionsTitle, "Random Block Sizes", setup.ListedSizesText);
     desktop_.Press({"ctrl+Tab"});
     user_.Find(OptionsTitle, "label", "Length");
-    Check(alphabetButtons.at(static_cast<std::size_t>(setup.Characters)));
-    Check(setup.RandomCodes ? "Random" : "Sequential");
+    user_.Press(OptionsTitle, alphabets[static_cast<int>(setup.Characters)]);
+    user_.Press(OptionsTitle, setup.RandomCodes ? "Random" : "Sequential");
     MoveBar(OptionsTitle, "Length", ShortestCode(setup.SampleSize), setup.CodeLength);
     desktop_.Press({"ctrl+Tab", "ctrl+Tab", "ctrl+Tab"});
 }
@@ -142,43 +137,29 @@ void Session::EnterFormat(const ListSetup& setup) {
     desktop_.Press({"ctrl+Tab", "ctrl+Tab"});
     user_.Find(OptionsTitle, "label", "Columns");
     MoveBar(OptionsTitle, "Columns", 1, setup.Columns);
-    Check("Table Border (Web Page only)", setup.Border);
+    if (setup.Border != format_.Border)
+        user_.Press(OptionsTitle, "Table Border (Web Page only)");
     MoveBar(OptionsTitle, "Cell Spacing", 0, setup.Spacing);
     desktop_.Press({"ctrl+Tab"});
     user_.Find(OptionsTitle, "label", "Level of significance");
-    Check("Runs test on generated sequence", setup.RunsTest());
+    if (setup.RunsTest() != format_.RunsTest())
+        user_.Press(OptionsTitle, "Runs test on generated sequence");
     if (setup.RunsTest())
         user_.Fill(OptionsTitle, "Level of significance", setup.Level);
     format_ = setup;
 }
 
-void Session::Check(const std::string& button, bool checked) {
-    bool isChecked = false;
-    const auto isButton = [&](const driving::Control& control) {
-        isChecked = control.Checked;
-        return control.Name == button && (control.Role == "radio button" || control.Role == "check box");
-    };
-    user_.AwaitControl(OptionsTitle, "the button \"" + button + "\"", isButton);
-    if (isChecked == checked)
-        return;
-    user_.FocusOn(OptionsTitle, button);
-    desktop_.Press({"space"});
-    user_.AwaitControl(OptionsTitle, "the change of \"" + button + "\"",
-                       [&](const auto& control) { return isButton(control) && control.Checked == checked; });
-}
-
 void Session::MoveBar(const std::string& title, const std::string& name, int least, int value) {
-    user_.FocusOn(title, name);
     driving::Words keys = {"Home"};
     keys.insert(keys.end(), static_cast<std::size_t>(value - least), "Right");
-    desktop_.Press(keys);
+    user_.Press(title, name, keys);
     user_.Find(title, "label", std::to_string(value));
 }
 
 void Session::Take(MadeList& list, const fs::path& file) {
     const Form form = list.Setup.Output;
     if (form == Form::Window) {
-        list.Window = SaveFromWindow(file);
+        SaveFromWindow(list, file);
     } else if (form == Form::Clipboard) {
         Expect("Data were copied into clipboard successfuly!", Told());
         driving::WriteFile(file, desktop_.Pasted());
@@ -194,25 +175,21 @@ void Session::Take(MadeList& list, const fs::path& file) {
         desktop_.AwaitThat("the end of the temporary file", [&] { return TemporaryFiles().empty(); });
 }
 
-WindowSeen Session::SaveFromWindow(const fs::path& file) {
+void Session::SaveFromWindow(MadeList& list, const fs::path& file) {
     const driving::Window output = desktop_.Await(driving::OutputTitle);
-    WindowSeen seen;
     user_.AwaitControl(driving::OutputTitle, "the list", [&](const driving::Control& control) {
-        seen.Text = WithoutReturns(control.Text);
-        return control.Role == "text" && !seen.Text.empty();
+        list.WindowText = WithoutReturns(control.Text);
+        return control.Role == "text" && !list.WindowText.empty();
     });
     const std::vector<fs::path> files = TemporaryFiles();
-    seen.HasOnePrivateFile = files.size() == 1 && fs::status(files.front()).permissions() ==
+    list.HasOnePrivateFile = files.size() == 1 && fs::status(files.front()).permissions() ==
                                                       (fs::perms::owner_read | fs::perms::owner_write);
-    user_.FocusOn(driving::OutputTitle, "Save");
-    desktop_.Press({"space"});
+    user_.Press(driving::OutputTitle, "Save");
     const driving::Window prompt = desktop_.Await(driving::SaveOutputTitle);
     user_.Answer(prompt, file.string());
     desktop_.AwaitGone(prompt);
-    user_.FocusOn(driving::OutputTitle, "Close");
-    desktop_.Press({"space"});
+    user_.Press(driving::OutputTitle, "Close");
     desktop_.AwaitGone(output);
-    return seen;
 }
 
 std::vector<fs::path> Session::TemporaryFiles() const {

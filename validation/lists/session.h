@@ -45,10 +45,9 @@ class Session {
     void TypeMainWindow(const ListSetup& setup);
     void TypeOptions(const ListSetup& setup);
     void EnterFormat(const ListSetup& setup);
-    void Check(const std::string& button, bool checked = true);
     void MoveBar(const std::string& title, const std::string& name, int least, int value);
     void Take(MadeList& list, const std::filesystem::path& file);
-    WindowSeen SaveFromWindow(const std::filesystem::path& file);
+    void SaveFromWindow(MadeList& list, const std::filesystem::path& file);
 
     driving::Desktop desktop_;
     driving::User user_;

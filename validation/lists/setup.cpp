@@ -1,62 +1,55 @@
 #include "validation/lists/setup.h"
 
-#include <QString>
+#include <QFile>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <map>
-#include <sstream>
 #include <stdexcept>
 
 namespace orvane::validation {
 
 namespace {
 
-using Cells = std::vector<std::string>;
+const QStringList Ways = {"started", "typed", "loaded"};
+const QStringList BlockOptions = {"one block", "equal blocks", "listed sizes", "random sizes"};
+const QStringList Alphabets = {"letters", "digits", "mixed"};
+const QStringList Forms = {"text file", "web page", "window", "clipboard"};
 
-const Cells Ways = {"started", "typed", "loaded"};
-const Cells BlockOptions = {"one block", "equal blocks", "listed sizes", "random sizes"};
-const Cells Codes = {"sequential letters", "random letters",   "sequential digits",
-                     "random digits",      "sequential mixed", "random mixed"};
-const Cells Forms = {"text file", "web page", "window", "clipboard"};
-
-/// The place of a text among others. Throws for any other text.
-int PlaceIn(const Cells& texts, const std::string& text) {
-    const auto found = std::ranges::find(texts, text);
-    if (found == texts.end())
-        throw std::runtime_error("no choice: \"" + text + "\"");
-    return static_cast<int>(found - texts.begin());
+/// The place of a cell among the choices of its column. Throws for any other text.
+template <typename Choice>
+Choice ChoiceOf(const QStringList& choices, const QString& cell) {
+    if (!choices.contains(cell))
+        throw std::runtime_error("setups.csv has the unknown choice " + cell.toStdString());
+    return static_cast<Choice>(choices.indexOf(cell));
 }
 
-Cells GroupNames(int count, bool areLong) {
-    Cells names;
-    for (int group = 1; group <= count; ++group) {
-        const std::string number = std::to_string(group);
-        // The byte E9 is a letter of the 8-bit code page; "<" and "&" are special characters in HTML.
-        names.push_back(areLong ? "Th\xE9rapie no " + number +
-                                      (group % 2 == 0 ? " & placebo" : " <10 mg, at night>")
-                                : std::string("Arm ") + static_cast<char>('A' + group - 1));
-    }
-    return names;
+std::string GroupName(int group, bool isLong) {
+    if (!isLong)
+        return std::string("Arm ") + static_cast<char>('A' + group - 1);
+    // The byte E9 is a letter of the 8-bit code page; "<" and "&" are special characters in HTML.
+    return "Th\xE9rapie no " + std::to_string(group) + (group % 2 == 0 ? " & placebo" : " <10 mg, at night>");
 }
 
-ListSetup SetupOf(std::map<std::string, std::string> cells) {
+ListSetup SetupOf(const std::map<QString, QString>& cells) {
+    const QStringList codes = cells.at("codes").split(' ');
     ListSetup setup;
-    setup.Input = static_cast<Way>(PlaceIn(Ways, cells["input"]));
-    setup.Blocks = static_cast<BlockOption>(PlaceIn(BlockOptions, cells["blocks"]));
-    setup.SampleSize = std::stoi(cells["sample size"]);
-    setup.Groups = GroupNames(std::stoi(cells["groups"]), cells["names"] == "long");
-    setup.RandomCodes = PlaceIn(Codes, cells["codes"]) % 2 == 1;
-    setup.Characters = static_cast<Alphabet>(PlaceIn(Codes, cells["codes"]) / 2);
-    setup.CodeLength =
-        cells["length"] == "shortest" ? ShortestCode(setup.SampleSize) : std::stoi(cells["length"]);
-    setup.Output = static_cast<Form>(PlaceIn(Forms, cells["form"]));
-    setup.Columns = std::stoi(cells["columns"]);
-    setup.Border = cells["page"].starts_with("border");
-    setup.Spacing = cells["page"].back() - '0';
-    setup.Level = cells["runs test"] == "off" ? "" : cells["runs test"];
-    const int groups = setup.GroupCount();
+    setup.Input = ChoiceOf<Way>(Ways, cells.at("input"));
+    setup.Blocks = ChoiceOf<BlockOption>(BlockOptions, cells.at("blocks"));
+    setup.RandomCodes = codes.first() == "random";
+    setup.Characters = ChoiceOf<Alphabet>(Alphabets, codes.last());
+    setup.Output = ChoiceOf<Form>(Forms, cells.at("form"));
+    setup.Columns = cells.at("columns").toInt();
+    setup.Border = cells.at("page").startsWith("border");
+    setup.Spacing = cells.at("page").right(1).toInt();
+    setup.Level = cells.at("runs test") == "off" ? "" : cells.at("runs test").toStdString();
+    setup.SampleSize = cells.at("sample size").toInt();
+    const bool isShortest = cells.at("length") == "shortest";
+    setup.CodeLength = isShortest ? ShortestCode(setup.SampleSize) : cells.at("length").toInt();
+    const int groups = cells.at("groups").toInt();
+    setup.Groups.clear();
+    for (int group = 1; group <= groups; ++group)
+        setup.Groups.push_back(GroupName(group, cells.at("names") == "long"));
     if (setup.Blocks == BlockOption::Equal)
         setup.EqualSize = 2 * groups;
     if (setup.Blocks == BlockOption::Listed) {
@@ -69,39 +62,23 @@ ListSetup SetupOf(std::map<std::string, std::string> cells) {
 
 } // namespace
 
-std::set<std::string> SetupTable::Choices(std::size_t column) const {
-    std::set<std::string> choices;
-    for (const Cells& line : Lines)
-        choices.insert(line[column]);
-    return choices;
-}
-
-SetupTable ReadTable(const std::filesystem::path& file) {
-    SetupTable table;
-    std::ifstream stream(file);
-    for (std::string line; std::getline(stream, line);) {
-        Cells cells;
-        std::istringstream words(line);
-        for (std::string cell; std::getline(words, cell, ',');)
-            cells.push_back(cell);
-        if (table.Columns.empty())
-            table.Columns = cells;
-        else if (cells.size() == table.Columns.size())
-            table.Lines.push_back(cells);
-        else
-            throw std::runtime_error(file.string() + ": a line with a wrong number of cells: " + line);
-    }
-    return table;
-}
-
-std::vector<ListSetup> SetupsOf(const SetupTable& table) {
+std::vector<ListSetup> ReadSetups() {
+    QFile file(SETUPS);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("setups.csv cannot be read");
+    QStringList lines = QString::fromLatin1(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    const QStringList columns = lines.takeFirst().split(',');
     std::vector<ListSetup> setups;
-    for (const Cells& line : table.Lines) {
-        std::map<std::string, std::string> cells;
-        for (std::size_t column = 0; column < line.size(); ++column)
-            cells[table.Columns[column]] = line[column];
-        setups.push_back(SetupOf(cells));
+    for (const QString& line : lines) {
+        const QStringList cells = line.split(',');
+        if (cells.size() != columns.size())
+            throw std::runtime_error("setups.csv has a wrong number of cells in " + line.toStdString());
+        std::map<QString, QString> choices;
+        for (qsizetype column = 0; column < columns.size(); ++column)
+            choices[columns[column]] = cells[column];
+        setups.push_back(SetupOf(choices));
         setups.back().Number = static_cast<int>(setups.size());
+        setups.back().Choices = choices;
     }
     return setups;
 }
@@ -129,12 +106,7 @@ std::string CharactersOf(Alphabet alphabet) {
 }
 
 std::string Text(Form form) {
-    return Forms.at(static_cast<std::size_t>(form));
-}
-
-std::string FileName(const ListSetup& setup) {
-    const QString name = QString("list-%1").arg(setup.Number, 2, 10, QChar('0'));
-    return name.toStdString() + (setup.Output == Form::WebPage ? ".htm" : ".txt");
+    return Forms.at(static_cast<qsizetype>(form)).toStdString();
 }
 
 } // namespace orvane::validation

@@ -3,8 +3,9 @@
 
 #include "tools/driving/settings_text.h"
 
-#include <filesystem>
-#include <set>
+#include <QString>
+
+#include <map>
 #include <string>
 #include <vector>
 
@@ -33,30 +34,19 @@ struct ListSetup {
     std::string Level{}; ///< of the Runs test; empty when the test is off
     std::vector<std::string> Groups = {"Group 1", "Group 2"};
     int SampleSize = 0;
-    int EqualSize = 0;              ///< of a block under BlockOption::Equal
-    std::vector<int> ListedSizes{}; ///< that a block may have under BlockOption::Listed
-    std::string ListedSizesText{};  ///< as the user types them
+    int EqualSize = 0;                    ///< of a block under BlockOption::Equal
+    std::vector<int> ListedSizes{};       ///< that a block may have under BlockOption::Listed
+    std::string ListedSizesText{};        ///< as the user types them
+    std::map<QString, QString> Choices{}; ///< its cells in the file, by the names of the columns
 
     [[nodiscard]] int GroupCount() const { return static_cast<int>(Groups.size()); }
     [[nodiscard]] bool RunsTest() const { return !Level.empty(); }
 };
 
-/// A file with one line a set-up and cells divided by commas, below a line that names the columns. Equal
-/// blocks hold each group twice; listed ones hold it two, three or four times.
-struct SetupTable {
-    std::vector<std::string> Columns;
-    std::vector<std::vector<std::string>> Lines;
-
-    /// The different cells of a column.
-    [[nodiscard]] std::set<std::string> Choices(std::size_t column) const;
-};
-
-/// Throws std::runtime_error for a line with a wrong number of cells.
-SetupTable ReadTable(const std::filesystem::path& file);
-
-/// The set-ups of a table, numbered from 1. Throws std::runtime_error that names a cell that it does not
-/// know.
-std::vector<ListSetup> SetupsOf(const SetupTable& table);
+/// The set-ups of the file setups.csv, numbered from 1. Below a line that names the columns it has one line a
+/// set-up, with cells divided by commas. Equal blocks hold each group twice; listed ones hold it two, three
+/// or four times. Throws std::runtime_error that names a wrong line.
+std::vector<ListSetup> ReadSetups();
 
 /// The part of a set-up that a settings file holds.
 driving::SettingsText SettingsOf(const ListSetup& setup);
@@ -69,8 +59,5 @@ std::string CharactersOf(Alphabet alphabet);
 
 /// The form as the table names it.
 std::string Text(Form form);
-
-/// The name of the list's file in the evidence, such as "list-01.txt".
-std::string FileName(const ListSetup& setup);
 
 } // namespace orvane::validation

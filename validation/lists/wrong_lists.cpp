@@ -1,4 +1,4 @@
-#include "validation/lists/checks.h"
+#include "validation/checks.h"
 
 #include "validation/lists/rules.h"
 
@@ -12,18 +12,17 @@ namespace {
 using Lists = std::vector<MadeList>;
 
 /// A fault that breaks one rule alone in at least one of the lists.
-struct Fault {
+struct WrongList {
     const char* What;
     const char* Rule;
     void (*Plant)(MadeList&);
 };
 
-/// The first code of a list.
-std::string& First(MadeList& list) {
+std::string& FirstCode(MadeList& list) {
     return list.Blocks.front().front().Code;
 }
 
-std::string& Last(MadeList& list) {
+std::string& LastCode(MadeList& list) {
     return list.Blocks.back().back().Code;
 }
 
@@ -46,25 +45,25 @@ void AddASpace(MadeList& list) {
     ReadBack(list);
 }
 
-constexpr Fault Faults[] = {
+constexpr WrongList Faults[] = {
     {"a subject in another group", "ASG-1.1", GiveAnotherGroup},
     {"a subject in another group", "ASG-2.1", GiveAnotherGroup},
     {"a second block", "BLK-1.1",
      [](MadeList& list) {
-         list.Blocks.push_back({{std::string(First(list).size(), 'Z'), 1}});
+         list.Blocks.push_back({{std::string(FirstCode(list).size(), 'Z'), 1}});
      }},
     {"the last block missing", "BLK-2.1", DropTheLastBlock},
     {"the last block missing", "BLK-3.1", DropTheLastBlock},
     {"the last block missing", "BLK-4.1", DropTheLastBlock},
-    {"a code used twice", "COD-1.1", [](MadeList& list) { Last(list) = First(list); }},
-    {"a wrong character in a code", "COD-2.1", [](MadeList& list) { First(list)[0] = '*'; }},
-    {"two codes exchanged", "COD-3.1", [](MadeList& list) { std::swap(First(list), Last(list)); }},
+    {"a code used twice", "COD-1.1", [](MadeList& list) { LastCode(list) = FirstCode(list); }},
+    {"a wrong character in a code", "COD-2.1", [](MadeList& list) { FirstCode(list)[0] = '*'; }},
+    {"two codes exchanged", "COD-3.1", [](MadeList& list) { std::swap(FirstCode(list), LastCode(list)); }},
     {"blocks in the order of their groups", "RUN-2.1", SortByGroup},
     {"a space too many", "REP-1.1", AddASpace},
     {"a space too many", "REP-2.1", AddASpace},
-    {"a window that shows another list", "REP-3.1", [](MadeList& list) { list.Window->Text[0] = '*'; }},
+    {"a window that shows another list", "REP-3.1", [](MadeList& list) { list.WindowText[0] = '*'; }},
     {"a space too many", "REP-4.1", AddASpace},
-    {"a file that all can read", "CON-4.1", [](MadeList& list) { list.Window->HasOnePrivateFile = false; }},
+    {"a file that all can read", "CON-4.1", [](MadeList& list) { list.HasOnePrivateFile = false; }},
 };
 
 /// The rules that a list breaks.
@@ -76,12 +75,12 @@ std::string Broken(const MadeList& list) {
     return broken;
 }
 
-void CheckFaults(Evidence& evidence, const Lists& lists) {
+void CheckFaults(Check& check, const Lists& lists) {
     std::vector<Row> rows;
     for (const Rule& rule : Rules())
-        evidence.Demand(std::ranges::count(Faults, rule.Identifier, &Fault::Rule) != 0,
-                        rule.Identifier + " has no fault");
-    for (const Fault& fault : Faults) {
+        check.Demand(std::ranges::count(Faults, rule.Identifier, &WrongList::Rule) != 0,
+                     rule.Identifier + " has no fault");
+    for (const WrongList& fault : Faults) {
         const auto rule = std::ranges::find(Rules(), fault.Rule, &Rule::Identifier);
         const auto found = std::ranges::find_if(lists, [&](MadeList list) {
             if (!rule->Applies(list.Setup) || !Broken(list).empty())
@@ -90,16 +89,17 @@ void CheckFaults(Evidence& evidence, const Lists& lists) {
             return Broken(list) == fault.Rule;
         });
         const std::string number = found == lists.end() ? "none" : std::to_string(found->Setup.Number);
-        evidence.Demand(found != lists.end(), fault.What + (" is not found by " + std::string(fault.Rule)));
+        check.Demand(found != lists.end(), fault.What + (" is not found by " + std::string(fault.Rule)));
         rows.push_back({fault.What, fault.Rule, number});
     }
-    evidence.Table({"Fault", "Rule that must find it, and no other", "Found in list"}, rows,
-                   "Lists of the program with one fault each");
+    check.Exhibits.push_back({"Lists of the program with one fault each",
+                              {"Fault", "Rule that must find it, and no other", "Found in list"},
+                              rows});
 }
 
 /// Changes each byte of the shortest numbered list of each form. In a list of random codes a rule cannot tell
 /// a changed character from a right one.
-void CheckChangedBytes(Evidence& evidence, const Lists& lists) {
+void CheckChangedBytes(Check& check, const Lists& lists) {
     for (const Form form : {Form::TextFile, Form::WebPage, Form::Window, Form::Clipboard}) {
         const MadeList* shortest = nullptr;
         for (const MadeList& list : lists)
@@ -115,20 +115,19 @@ void CheckChangedBytes(Evidence& evidence, const Lists& lists) {
             ReadBack(changed);
             found += Broken(changed).empty() ? 0U : 1U;
         }
-        evidence.Compare("List " + std::to_string(shortest->Setup.Number) + ", " + Text(form) +
-                             ": bytes changed, one at a time, and found",
-                         std::to_string(shortest->Bytes.size()), std::to_string(found));
+        check.Compare("List " + std::to_string(shortest->Setup.Number) + ", " + Text(form) +
+                          ": bytes changed, one at a time, and found",
+                      std::to_string(shortest->Bytes.size()), std::to_string(found));
     }
 }
 
 } // namespace
 
 void CheckRulesFindFaults(Record& record, const Lists& lists) {
-    constexpr Chapter here = Chapter::PlantedFaults;
-    record.Run("REC-1.1", "Every rule finds the faults that break it", here,
-               [&](Evidence& evidence) { CheckFaults(evidence, lists); });
-    record.Run("REC-1.2", "The rules find every changed byte", here,
-               [&](Evidence& evidence) { CheckChangedBytes(evidence, lists); });
+    record.Run("REC-1.1", "Every rule finds the faults that break it", Chapter::PlantedFaults,
+               [&](Check& check) { CheckFaults(check, lists); });
+    record.Run("REC-1.2", "The rules find every changed byte", Chapter::PlantedFaults,
+               [&](Check& check) { CheckChangedBytes(check, lists); });
 }
 
 } // namespace orvane::validation
