@@ -8,11 +8,10 @@
 
 namespace orvane::validation {
 
-struct Sample;
-
 /// Chapters 3 and 4: the lists of the table, in a quick validation only the first ones, made from known keys
-/// and held against the rules and against the second program. Returns the lists.
-std::vector<MadeList> CheckLists(Record& record, Session& session);
+/// and held against the rules and against the second program. Chapter 8: every rule finds the fault that
+/// breaks it alone, and the rules find every changed byte.
+void CheckLists(Record& record, Session& session);
 
 /// CON-1.1: published figures beside those of the second program.
 void CheckSecondProgram(Record& record);
@@ -21,18 +20,11 @@ void CheckSecondProgram(Record& record);
 /// settings saved, loaded and damaged.
 void CheckRefusals(Record& record, Session& session);
 
-/// Chapter 6: ASG-6.1 with one table, and a check for each statistic. Returns the samples of all kinds, or
-/// none if a list could not be made. Of each kind the last list is kept as a file.
-std::vector<Sample> CheckStatistics(Record& record, Session& session);
+/// Chapter 6: ASG-6.1 with one table, and a check for each statistic. Of each kind of sample the last list is
+/// kept as a file. Chapter 8: every statistic finds the fault in its sample.
+void CheckStatistics(Record& record, Session& session);
 
 /// Chapter 7: for each block option how often an investigator guesses the next assignment right.
 void CheckGuessing(Record& record);
-
-/// Chapter 8: every rule finds the fault that breaks it alone, and the rules find every changed byte.
-/// Requires: lists of all forms, block options and kinds of codes.
-void CheckRulesFindFaults(Record& record, const std::vector<MadeList>& lists);
-
-/// Chapter 8: every statistic judges its sample with a fault in it, and must find it.
-void CheckStatisticsFindFaults(Record& record, const std::vector<Sample>& samples);
 
 } // namespace orvane::validation

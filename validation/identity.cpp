@@ -1,4 +1,4 @@
-#include "validation/identity.h"
+#include "validation/run.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -11,7 +11,6 @@
 #include <stdexcept>
 
 namespace orvane::validation {
-
 namespace {
 
 namespace fs = std::filesystem;

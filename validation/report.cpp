@@ -1,7 +1,8 @@
-#include "validation/report.h"
+#include "validation/run.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -12,58 +13,14 @@
 #include <algorithm>
 
 namespace orvane::validation {
-
 namespace {
-
-/// A chapter that holds checks.
-struct ChapterHead {
-    Chapter Place;
-    const char* Title;
-    const char* Intro;
-};
-
-constexpr ChapterHead Chapters[] = {
-    {Chapter::Lists, "Lists",
-     "The program made these lists through its windows. Each was read back from its bytes by a reader that "
-     "shares nothing with the program, and held against the rules. The lists are kept with this record."},
-    {Chapter::KnownKey, "Known key",
-     "A library that was loaded before the program gave it a known key and a known time of day in place of "
-     "those of the operating system. A second program, written from the description of the first and without "
-     "a line of it, predicts the same lists. They must be equal to the byte."},
-    {Chapter::Refusals, "No entropy, refusals, settings",
-     "What the program refuses, with which message, and what it does with settings."},
-    {Chapter::Statistics, "Statistics",
-     "Long lists that the program made with the entropy of this machine. The P value is the probability that "
-     "a right program gives a sample that differs at least as much from its hypothesis."},
-    {Chapter::Guessing, "Guessing",
-     "How often an investigator is right who knows all earlier assignments and always names the group that "
-     "is the rarest so far (Blackwell and Hodges 1957). The figures are exact; nothing is simulated."},
-    {Chapter::PlantedFaults, "Planted faults", "Each fault was made on purpose and must be found."},
-};
-
-constexpr const char* Limits[] = {
-    "The unpredictability of the random data of the operating system. The record shows that the program uses "
-    "them, all of them, and makes no list without them.",
-    "The \"P value\" of the Runs test is the height of the normal curve at z, not a probability: it is at "
-    "most 0.3989, and a level of 0.05 rejects other blocks than a test at 5 per cent. The record shows that "
-    "the "
-    "program calculates it as documented, not that the test suits a trial.",
-    "Names of groups stand in a web page as they were typed. A name with characters such as < may be shown "
-    "otherwise by a browser; the bytes of the page are right.",
-    "Other machines, desktops, languages, code pages and versions of libraries than those of chapter 1. File "
-    "prompts of other desktops were not opened.",
-    "Programs of the desktop that show, edit or print a finished list.",
-    "What happens to a list after the program has written it: who can read it, and whether subjects get the "
-    "treatment that it assigns to them.",
-    "Whether groups, sample size and block option suit the protocol of a trial.",
-};
 
 QString Escaped(const std::string& text) {
     return QString::fromStdString(text).toHtmlEscaped().replace('\n', "<br>");
 }
 
-QString Paragraph(const QString& text) {
-    return "<p>" + text + "</p>\n";
+QString Paragraph(const std::string& text) {
+    return "<p>" + Escaped(text) + "</p>\n";
 }
 
 /// A table whose caption and head are repeated on each page. Tables with many columns or long sums are
@@ -95,13 +52,7 @@ QString Table(const Exhibit& table) {
     return html + "</table>\n<p class='gap'>&nbsp;</p>\n";
 }
 
-QString FirstChapters(const Record& record, const Run& run) {
-    QString html = "<h1>Validation record of Orvane Software " + Escaped(run.Version) +
-                   "</h1><h2>1. Conclusion and identity</h2>";
-    for (const std::string& line : Conclusion(record))
-        html += Paragraph("<b>" + Escaped(line) + "</b>");
-    if (record.Quick)
-        html += Paragraph("<b>Quick form, with fewer lists and smaller samples. File a full validation.</b>");
+QString RequirementTable(const Record& record) {
     std::vector<Row> rows;
     for (const Requirement& requirement : Requirements()) {
         rows.push_back({requirement.Identifier, requirement.Text, ""});
@@ -110,23 +61,17 @@ QString FirstChapters(const Record& record, const Run& run) {
                 rows.back()[2] +=
                     (rows.back()[2].empty() ? "" : ", ") + check.Identifier + " " + check.Result();
     }
-    return html + Table({"What was examined", {"Fact", "Value"}, run.Facts}) +
-           Table({"Delivered files", {"File", "Bytes", "SHA-256"}, run.Files}) +
-           Table({"Files that the running program had mapped: libraries, fonts, the table of the code page "
-                  "(gconv)",
-                  {"File", "Folder", "SHA-256"},
-                  run.Mapped}) +
-           "<h2>2. Requirements</h2>" +
-           Table({"Requirements and their checks, the most serious for a trial first",
+    return Table({"Requirements and their checks, the most serious for a trial first",
                   {"Identifier", "Requirement", "Checks"},
                   rows});
 }
 
-QString ChapterOf(const Record& record, const ChapterHead& head) {
+/// The checks of a chapter and their evidence.
+QString Evidence(const Record& record, Chapter chapter) {
     std::vector<Row> rows;
     QString exhibits;
     for (const Check& check : record.Checks) {
-        if (check.Place != head.Place)
+        if (check.Place != chapter)
             continue;
         rows.push_back({check.Identifier, check.Title, check.Result()});
         for (const std::string& fault : check.Faults)
@@ -137,43 +82,49 @@ QString ChapterOf(const Record& record, const ChapterHead& head) {
                                check.Comparisons});
         for (Exhibit exhibit : check.Exhibits) {
             exhibit.Text = check.Identifier + ": " + exhibit.Text;
-            exhibits += exhibit.Head.empty() ? Paragraph(Escaped(exhibit.Text)) : Table(exhibit);
+            exhibits += exhibit.Head.empty() ? Paragraph(exhibit.Text) : Table(exhibit);
         }
     }
-    return QString("<h2>%1. %2</h2>").arg(static_cast<int>(head.Place)).arg(head.Title) +
-           Paragraph(head.Intro) + Table({"Checks", {"Check", "What it shows", "Result"}, rows}) + exhibits;
+    return Table({"Checks", {"Check", "What it shows", "Result"}, rows}) + exhibits;
 }
 
-QString LastChapter(const Run& run) {
-    QString html = "<h2>9. Limits, checksums, signatures</h2><p>Not examined:</p><ul>";
-    for (const char* limit : Limits)
-        html += "<li>" + Escaped(limit) + "</li>\n";
-    html += "</ul>" +
-            Paragraph("The files of evidence beside this record are listed with their sums in SHA256SUMS, "
-                      "whose own SHA-256 is " +
-                      Escaped(run.Checksum) + ".");
-    for (const char* role : {"Validation run by", "Record approved by"})
-        html += Paragraph(QString("<br>") + role + ": name, date, signature<br><br>") + "<hr>";
-    return html;
+/// The text of record.html with the findings in the places that it has for them.
+QString Filled(const Record& record, const Run& run, const QString& title) {
+    QFile file(RECORD_TEXT);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("record.html cannot be read");
+    QString html = QString::fromUtf8(file.readAll());
+    QString conclusion;
+    for (const std::string& line : Conclusion(record))
+        conclusion += "<b>" + Paragraph(line) + "</b>";
+    html.replace("{title}", title).replace("{conclusion}", conclusion);
+    html.replace("{identity}", Table({"What was examined", {"Fact", "Value"}, run.Facts}) +
+                                   Table({"Delivered files", {"File", "Bytes", "SHA-256"}, run.Files}) +
+                                   Table({"Files that the running program had mapped: libraries, fonts, the "
+                                          "table of the code page (gconv)",
+                                          {"File", "Folder", "SHA-256"},
+                                          run.Mapped}));
+    html.replace("{requirements}", RequirementTable(record));
+    for (int chapter = 3; chapter <= 8; ++chapter)
+        html.replace(QString("{%1}").arg(chapter), Evidence(record, static_cast<Chapter>(chapter)));
+    return html.replace("{checksum}", QString::fromStdString(run.Checksum));
 }
 
 /// Prints the document page by page with a footer.
 void Print(QTextDocument& document, QPdfWriter& writer, const QString& footer) {
-    const QSizeF page = QSizeF(writer.width(), writer.height());
-    const int footerHeight = writer.resolution() / 4;
+    const QRectF page(0, 0, writer.width(), writer.height() - writer.resolution() / 4.0);
     document.documentLayout()->setPaintDevice(&writer);
-    document.setPageSize({page.width(), page.height() - footerHeight});
+    document.setPageSize(page.size());
     QPainter painter(&writer);
     painter.setFont(QFont("DejaVu Sans", 7));
     for (int number = 0; number < document.pageCount(); ++number) {
         if (number > 0)
             writer.newPage();
-        const QRectF part(QPointF(0, number * document.pageSize().height()), document.pageSize());
-        painter.translate(-part.topLeft());
-        document.drawContents(&painter, part);
+        painter.drawText(page.bottomLeft() + QPointF(0, writer.resolution() / 5.0),
+                         footer.arg(number + 1).arg(document.pageCount()));
+        painter.translate(0, -number * page.height());
+        document.drawContents(&painter, page.translated(0, number * page.height()));
         painter.resetTransform();
-        painter.drawText(QPointF(0, page.height() - footerHeight / 4.0),
-                         footer + QString(", page %1 of %2").arg(number + 1).arg(document.pageCount()));
     }
 }
 
@@ -189,21 +140,16 @@ std::vector<std::string> Conclusion(const Record& record) {
         if (std::ranges::count(record.Checks, requirement.Identifier, &Check::Requirement) == 0)
             lines.push_back("Requirement " + requirement.Identifier + " has no check.");
     lines.front() = std::string("Conclusion: ") + (lines.size() == 1 ? "PASSED, " : "FAILED, ") +
-                    std::to_string(record.Checks.size()) + " checks";
+                    std::to_string(record.Checks.size()) + " checks" +
+                    (record.Quick ? "; quick form, with fewer lists and smaller samples" : "");
     return lines;
 }
 
 QByteArray RecordPdf(const Record& record, const Run& run) {
+    const QString title = "Validation record of Orvane Software " + QString::fromStdString(run.Version);
     QTextDocument document;
     document.setDefaultFont(QFont("DejaVu Sans", 9));
-    document.setDefaultStyleSheet(
-        "h1 { font-size: 16pt; } h2 { font-size: 13pt; margin-top: 16px; } "
-        "th { text-align: left; background-color: #e6e6e6; } "
-        ".caption { font-style: italic; font-size: 8pt; } .gap { font-size: 4pt; }");
-    QString html = FirstChapters(record, run);
-    for (const ChapterHead& head : Chapters)
-        html += ChapterOf(record, head);
-    document.setHtml(html + LastChapter(run));
+    document.setHtml(Filled(record, run, title));
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -211,10 +157,8 @@ QByteArray RecordPdf(const Record& record, const Run& run) {
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins(QMarginsF(16, 15, 16, 12), QPageLayout::Millimeter);
     writer.setResolution(300);
-    const QString title = "Validation record of Orvane Software " + QString::fromStdString(run.Version);
     writer.setTitle(title);
-    Print(document, writer,
-          title + (record.Quick ? ", quick form, " : ", ") + QString::fromStdString(run.Started));
+    Print(document, writer, title + ", " + QString::fromStdString(run.Started) + ", page %1 of %2");
     return bytes;
 }
 

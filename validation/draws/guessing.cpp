@@ -76,14 +76,9 @@ void CheckGuessing(Record& record) {
         for (const auto& [option, groups, sizes] : Plans)
             rows.push_back({option, std::to_string(groups), decimals(1.0 / groups),
                             decimals(RightShare(sizes, groups))});
-        check.Exhibits = {
-            {"Shares of the assignments, calculated exactly",
-             {"Block option", "Groups", "Right by chance", "Right with the strategy"},
-             rows},
-            {"Only an investigator who is not blinded can count. Small blocks of one size are the easiest to "
-             "guess; listed sizes hide the ends of the blocks; random sizes and one block are the hardest, "
-             "but "
-             "the groups can differ more while the trial is running."}};
+        check.Exhibits.push_back({"Shares of the assignments, calculated exactly",
+                                  {"Block option", "Groups", "Right by chance", "Right with the strategy"},
+                                  rows});
     };
     record.Run("CON-5.1", "How often an investigator guesses the next assignment", Chapter::Guessing, judge);
 }

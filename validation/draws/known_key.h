@@ -4,26 +4,19 @@
 
 #include "tools/driving/desktop.h"
 
+#include <QCryptographicHash>
 #include <QDateTime>
 
-#include <array>
-#include <bit>
-#include <cstdint>
 #include <string>
 
 namespace orvane::validation {
 
-/// The 256 bits that the program asks of the operating system, as eight words, lowest byte first.
-using Key = std::array<std::uint32_t, 8>;
-
 inline constexpr qint64 StandingTime = 1'700'000'000; // an afternoon in November 2023
 
-/// A key for a validation, the same at every run. Each number gives another one.
-inline Key KeyNumber(std::uint32_t number) {
-    Key key{};
-    for (std::uint32_t word = 0; word < key.size(); ++word)
-        key.at(word) = 0x9E3779B9U * (8 * number + word + 1); // bits of both values in every byte
-    return key;
+/// The 256 bits that the program asks of the operating system. Each number gives other ones, the same at
+/// every validation.
+inline QByteArray KeyNumber(int number) {
+    return QCryptographicHash::hash(QByteArray::number(number), QCryptographicHash::Sha256);
 }
 
 /// The program's clock stands still at TimeOfLists, while the key comes from the operating system.
@@ -32,10 +25,9 @@ inline driving::Environment WithStandingClock() {
 }
 
 /// The program's clock stands still, and it gets this key.
-inline driving::Environment WithKey(const Key& key) {
-    const auto bytes = std::bit_cast<std::array<char, sizeof(Key)>>(key);
+inline driving::Environment WithKey(const QByteArray& key) {
     driving::Environment variables = WithStandingClock();
-    variables["KNOWN_KEY"] = QByteArray(bytes.data(), sizeof(Key)).toHex().toStdString();
+    variables["KNOWN_KEY"] = key.toHex().toStdString();
     return variables;
 }
 

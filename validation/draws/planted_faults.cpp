@@ -1,4 +1,3 @@
-#include "validation/checks.h"
 #include "validation/draws/statistics.h"
 
 #include <QString>
@@ -16,7 +15,7 @@ Sample Planted(const Fault& fault, double share, Sample sample) {
     std::mt19937 random{1}; // NOLINT: the same faults at every validation
     std::bernoulli_distribution isHit(share);
     Texts& texts = sample.*fault.Place;
-    std::string before = texts.front();
+    std::string before = texts.at(0);
     for (std::string& text : texts) {
         if (share == 0 ? &text == &texts.back() : isHit(random))
             fault.Change({text, before, sample.Setup, random});
@@ -25,13 +24,13 @@ Sample Planted(const Fault& fault, double share, Sample sample) {
     return sample;
 }
 
-void CheckStatisticsFindFaults(Record& record, const std::vector<Sample>& samples) {
+void CheckStatisticsFindFaults(Record& record, const Samples& samples) {
     const auto judge = [&](Check& check) {
         std::vector<Row> rows;
         for (const Statistic& statistic : AllStatistics()) {
             const Fault& fault = statistic.Fault;
-            const bool found =
-                !Judge(statistic, Planted(fault, fault.Share, samples.at(statistic.Kind))).Passed;
+            const Sample sample = Planted(fault, fault.Share, samples.at(statistic.Sample));
+            const bool found = Judge(statistic, sample).PValue <= FalseAlarm;
             const std::string text = ShareText(fault.Share, fault);
             check.Demand(found, text + " is not found by " + statistic.Identifier);
             rows.push_back({text, statistic.Identifier, found ? "found" : "NOT FOUND"});

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <cstring>
 #include <numeric>
 #include <set>
 #include <string_view>
@@ -96,8 +97,8 @@ float HeightOfNormalCurve(float z) {
     return static_cast<float>(0.398942280401433 * std::exp(-0.5 * static_cast<double>(z) * z));
 }
 
-SecondProgram::SecondProgram(const Key& key) : input_{0x61707865, 0x3320646E, 0x79622D32, 0x6B206574} {
-    std::ranges::copy(key, input_.begin() + 4);
+SecondProgram::SecondProgram(const QByteArray& key) : input_{0x61707865, 0x3320646E, 0x79622D32, 0x6B206574} {
+    std::memcpy(&input_[4], key.constData(), 32);
 }
 
 void SecondProgram::Reseed() {
@@ -133,23 +134,13 @@ std::size_t SecondProgram::Draw(std::size_t highest) {
 }
 
 std::vector<int> SecondProgram::BlockSizes(const ListSetup& setup) {
-    if (setup.Blocks == BlockOption::One)
-        return {setup.SampleSize};
+    const bool isDrawn = setup.Blocks == BlockOption::Listed || setup.Blocks == BlockOption::RandomSizes;
+    const std::vector<int> allowed = AllowedSizes(setup);
     std::vector<int> sizes;
-    if (setup.Blocks == BlockOption::Equal) {
-        const int blocks = setup.SampleSize / setup.EqualSize + 1;
-        sizes.resize(static_cast<std::size_t>(blocks), setup.EqualSize);
-        return sizes;
-    }
-    Reseed();
-    const bool listed = setup.Blocks == BlockOption::Listed;
-    const int deals = setup.SampleSize / setup.GroupCount() + 1;
-    const int least = std::max(1, deals / 5);
-    const auto range = static_cast<std::size_t>(std::max(1, deals / 3) - least);
-    const int enough = listed ? setup.SampleSize : setup.SampleSize + 1;
-    while (std::accumulate(sizes.begin(), sizes.end(), 0) < enough)
-        sizes.push_back(listed ? setup.ListedSizes.at(Draw(setup.ListedSizes.size() - 1))
-                               : setup.GroupCount() * (least + static_cast<int>(Draw(range))));
+    if (isDrawn)
+        Reseed();
+    while (std::accumulate(sizes.begin(), sizes.end(), 0) < Enough(setup))
+        sizes.push_back(allowed.at(isDrawn ? Draw(allowed.size() - 1) : 0));
     return sizes;
 }
 

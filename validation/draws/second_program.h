@@ -5,6 +5,8 @@
 #include "validation/draws/known_key.h"
 #include "validation/lists/reader.h"
 
+#include <array>
+#include <cstdint>
 #include <deque>
 #include <string>
 #include <vector>
@@ -21,7 +23,7 @@ float HeightOfNormalCurve(float z);
 class SecondProgram {
   public:
     /// Starts as the program does with this key, before its first list.
-    explicit SecondProgram(const Key& key);
+    explicit SecondProgram(const QByteArray& key);
 
     /// The next list of this start. As in the program, it depends on the lists made before.
     Prediction Make(const ListSetup& setup);

@@ -9,14 +9,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <stdexcept>
 
 namespace orvane::validation {
 namespace {
 
-/// The probability that a right program fails one statistic with a P value.
-constexpr double FalseAlarm = 2e-8;
 constexpr double Missed = 0.01; ///< probability that the smallest fault is not found
 
 std::string Decimals(double value, int decimals) {
@@ -186,45 +183,8 @@ const Fault RepeatedList = {"lists that another start has made", 0, &Sample::Blo
 const Fault NotTested = {"blocks not tested", 0.05, &Sample::Blocks,
                          [](const Spot& at) { std::ranges::shuffle(at.Text, at.Random); }};
 
-enum SampleKind : std::size_t { OfFour, OfSix, OfSixInThree, OfEight, OfTwenty, OfSizes, OfTested, OfStarts };
-
-/// As many equal blocks as a list can have, with random codes of these characters if there are any.
-ListSetup Blocks(int size, int groups, std::optional<Alphabet> characters) {
-    ListSetup setup{.Blocks = BlockOption::Equal, .CodeLength = 10, .EqualSize = size};
-    setup.SampleSize = (32767 / size - 1) * size; // there is always one block more than fits into it
-    setup.Groups.clear();
-    for (const char group : Dealt(groups, groups))
-        setup.Groups.emplace_back(1, group);
-    setup.RandomCodes = characters.has_value();
-    setup.Characters = characters.value_or(Alphabet::Digits);
-    return setup;
-}
-
-/// The samples in the order of SampleKind, without their lists.
-std::vector<Sample> Designs() {
-    ListSetup listed = Blocks(4, 2, std::nullopt);
-    listed.Blocks = BlockOption::Listed;
-    listed.ListedSizes = {4, 6, 8, 10, 12};
-    listed.ListedSizesText = "4,6,8,10,12";
-    listed.SampleSize = 32767 - listed.ListedSizes.back();
-    ListSetup tested = Blocks(6, 2, std::nullopt);
-    tested.Level = "0.3";
-    return {
-        {Blocks(4, 2, Alphabet::Mixed), 50, 6},
-        {Blocks(6, 2, Alphabet::Letters), 50, 6},
-        {Blocks(6, 3, Alphabet::Digits), 50, 6},
-        {Blocks(8, 4, std::nullopt), 24, 4},
-        {Blocks(20, 2, std::nullopt), 30, 6},
-        {listed, 15, 3},
-        {tested, 16, 5},
-        {ListSetup{.SampleSize = 60}, 6, 3},
-    };
-}
-
 /// Keeps the blocks of a list, and its codes if they are random.
 void Keep(const MadeList& list, Sample& sample) {
-    if (!list.HasItsForm)
-        throw std::runtime_error("a list could not be made or read: " + list.NotMade);
     for (const std::vector<Subject>& block : list.Blocks) {
         std::string& groups = sample.Blocks.emplace_back();
         for (const Subject& subject : block) {
@@ -235,87 +195,69 @@ void Keep(const MadeList& list, Sample& sample) {
     }
 }
 
-std::vector<Sample> MakeSamples(Session& session, const Record& record) {
-    std::vector<Sample> samples = Designs();
-    for (std::size_t kind = 0; kind < samples.size(); ++kind) {
-        Sample& sample = samples[kind];
-        sample.Setup.Number = 101 + static_cast<int>(kind); // behind the other lists of the record
-        sample.Setup.Output = Form::Clipboard;              // faster than a file
-        sample.Setup.Columns = 1;
-        for (int list = 0; list < record.Size(sample.FullLists, sample.QuickLists); ++list) {
-            if (kind == OfStarts)
-                session.Restart(sample.Setup, WithStandingClock());
+/// The samples of the table. Those behind a list that could not be made or read are empty.
+Samples MakeSamples(Session& session, bool isQuick) {
+    Samples samples;
+    for (ListSetup setup : ReadSetups(SAMPLES)) {
+        const QString name = setup.Choices.at("sample");
+        setup.Number += 100; // behind the other lists of the record
+        samples[name].Setup = setup;
+        const int lists = setup.Choices.at(isQuick ? "quick" : "full").toInt();
+        for (int list = 0; list < lists; ++list) {
+            if (name == "starts")
+                session.Restart(setup, WithStandingClock());
             else if (list == 0)
-                session.Restart(sample.Setup);
-            Keep(session.Make(sample.Setup), sample);
+                session.Restart(setup);
+            const MadeList made = session.Make(setup);
+            if (!made.HasItsForm)
+                return samples;
+            Keep(made, samples[name]);
         }
     }
-    session.Stop();
     return samples;
 }
 
-std::vector<Verdict> JudgeAll(Check& check, const std::vector<Sample>& samples) {
-    std::vector<Verdict> verdicts;
-    std::vector<Row> rows;
-    double alarms = 0;
-    for (const Statistic& statistic : AllStatistics()) {
-        const Sample& sample = samples.at(statistic.Kind);
-        const double freedom = statistic.LawOf(sample.Setup, statistic.Results).Freedom;
-        const Verdict verdict = Judge(statistic, sample);
-        const double smallest = freedom == 0 ? 0 : SmallestShare(statistic, sample, verdict.Draws);
-        const QString draws = QLocale(QLocale::English).toString(verdict.Draws, 'f', 0);
-        rows.push_back({statistic.Hypothesis, draws.toStdString() + " " + statistic.Unit,
-                        freedom == 0 ? "none may occur" : Decimals(freedom, 0), Decimals(verdict.Value, 1),
-                        Significant(verdict.PValue), ShareText(smallest, statistic.Fault)});
-        alarms += freedom == 0 ? 0 : FalseAlarm;
-        verdicts.push_back(verdict);
-    }
-    check.Exhibits = {
-        {"The program's random choices, with the entropy of this machine",
-         {"Hypothesis", "Sample", "Degrees of freedom", "Chi-square", "P value",
-          "Smallest fault found with 99 per cent"},
-         rows},
-        {"A statistic fails at a P value of " + Significant(FalseAlarm) +
-         " or less, in the upper tail. A right program fails any of them with a probability of " +
-         Significant(alarms) +
-         ", the sum over all; with the error of the chi-square approximation, below 1e-06. Equal lists by "
-         "chance are rarer than 1e-15 and left out. At the smallest fault, a share of faulty draws, the "
-         "statistic fails with a probability of 99 per cent."},
-        {"No sample finds fewer exchanges than there should be, such as 10 N for a block of N: each group is "
-         "then already equally likely at each position to within 0.01 per cent. The known keys of chapter 4 "
-         "find it."}};
-    check.Demand(alarms > 0 && alarms < 5e-7, "the false alarms are too likely");
-    return verdicts;
+/// The line of a statistic in the table.
+Row RowOf(const Statistic& statistic, const Sample& sample, const Verdict& verdict) {
+    const bool isLaw = verdict.Freedom > 0;
+    const double smallest = isLaw ? SmallestShare(statistic, sample, verdict.Draws) : 0;
+    const QString draws = QLocale(QLocale::English).toString(verdict.Draws, 'f', 0);
+    return {statistic.Hypothesis,
+            draws.toStdString() + " " + statistic.Unit,
+            isLaw ? Decimals(verdict.Freedom, 0) : "none may occur",
+            Decimals(verdict.Value, 1),
+            Significant(verdict.PValue),
+            ShareText(smallest, statistic.Fault)};
 }
 
 } // namespace
 
 const std::vector<Statistic>& AllStatistics() {
     static const std::vector<Statistic> all = {
-        {"ASG-3.1", "Each arrangement of a block of 4 in 2 groups is equally likely", OfFour, LawOfBlocks,
+        {"ASG-3.1", "Each arrangement of a block of 4 in 2 groups is equally likely", "4 in 2", LawOfBlocks,
          Arrangement, "blocks", LeftAsDealt},
-        {"ASG-3.2", "Each arrangement of a block of 6 in 2 groups is equally likely", OfSix, LawOfBlocks,
+        {"ASG-3.2", "Each arrangement of a block of 6 in 2 groups is equally likely", "6 in 2", LawOfBlocks,
          Arrangement, "blocks", LeftAsDealt},
-        {"ASG-3.3", "Each arrangement of a block of 6 in 3 groups is equally likely", OfSixInThree,
-         LawOfBlocks, Arrangement, "blocks", LeftAsDealt},
-        {"ASG-4.1", "Each of 4 groups is equally likely at each position of a block of 8", OfEight,
+        {"ASG-3.3", "Each arrangement of a block of 6 in 3 groups is equally likely", "6 in 3", LawOfBlocks,
+         Arrangement, "blocks", LeftAsDealt},
+        {"ASG-4.1", "Each of 4 groups is equally likely at each position of a block of 8", "8 in 4",
          LawOfBlocks, Letters, "positions", GivenToB},
-        {"ASG-5.1", "The runs of a block of 20 in 2 groups have the law of Wald and Wolfowitz", OfTwenty,
+        {"ASG-5.1", "The runs of a block of 20 in 2 groups have the law of Wald and Wolfowitz", "20 in 2",
          LawOfBlocks, Runs, "blocks", LeftAsDealt},
-        {"BLK-5.1", "Of the sizes 4, 6, 8, 10, 12 the ends are half as likely as the others", OfSizes,
+        {"BLK-5.1", "Of the sizes 4, 6, 8 the ends are half as likely as the one between", "listed",
          HalfAtTheEnds, Size, "blocks", LevelSizes},
-        {"COD-4.1", "At each place of a code A and Z are half as likely as the other letters", OfSix,
+        {"COD-4.1", "At each place of a code A and Z are half as likely as the other letters", "6 in 2",
          HalfAtTheEnds, Letters, "characters", LevelCharacters},
-        {"COD-4.2", "At each place of a code 0 and 9 are half as likely as the other digits", OfSixInThree,
+        {"COD-4.2", "At each place of a code 0 and 9 are half as likely as the other digits", "6 in 3",
          HalfAtTheEnds, Letters, "characters", LevelCharacters},
-        {"COD-4.3", "At each place of a mixed code 0 and Z are half as likely as the others", OfFour,
+        {"COD-4.3", "At each place of a mixed code 0 and Z are half as likely as the others", "4 in 2",
          HalfAtTheEnds, Letters, "characters", LevelCharacters},
-        {"CON-3.1", "A block of 6 in 2 groups agrees with the one before as often as by chance", OfSix,
+        {"CON-3.1", "A block of 6 in 2 groups agrees with the one before as often as by chance", "6 in 2",
          LawOfBlocks, Agreement, "blocks", CopiedBlock},
-        {"CON-3.2", "Starts at the same time of day never make equal lists", OfStarts, NothingTwice,
+        {"CON-3.2", "Starts at the same time of day never make equal lists", "starts", NothingTwice,
          Repetition, "lists", RepeatedList},
         {"RUN-2.2", "Of the blocks of 6 only the 8 that pass the Runs test at 0.3 occur, equally often",
-         OfTested, LawOfBlocks, Arrangement, "blocks", NotTested},
+         "tested", LawOfBlocks, Arrangement, "blocks", NotTested},
     };
     return all;
 }
@@ -330,7 +272,9 @@ std::string Dealt(int size, int groups) {
 Verdict Judge(const Statistic& statistic, const Sample& sample) {
     const Law law = statistic.LawOf(sample.Setup, statistic.Results);
     auto seen = Counts(statistic, sample);
-    Verdict verdict;
+    if (seen.empty())
+        throw std::runtime_error("a long list could not be made or read");
+    Verdict verdict{.Freedom = law.Freedom};
     for (const auto& [result, count] : seen)
         verdict.Draws += count;
     for (const auto& [result, probability] : law.Results) {
@@ -340,24 +284,38 @@ Verdict Judge(const Statistic& statistic, const Sample& sample) {
     verdict.PValue = seen.size() > law.Results.size() ? 0 : 1; // an impossible result
     if (law.Freedom > 0)
         verdict.PValue *= cdf(complement(boost::math::chi_squared(law.Freedom), verdict.Value));
-    verdict.Passed = verdict.PValue > FalseAlarm;
     return verdict;
 }
 
-std::vector<Sample> CheckStatistics(Record& record, Session& session) {
-    std::vector<Sample> samples;
-    std::vector<Verdict> verdicts(AllStatistics().size());
+void CheckStatistics(Record& record, Session& session) {
+    const Samples samples = MakeSamples(session, record.Quick);
+    std::vector<Row> rows;
+    double alarms = 0;
+    for (const Statistic& statistic : AllStatistics())
+        record.Run(statistic.Identifier, statistic.Hypothesis, Chapter::Statistics, [&](Check& check) {
+            const Sample& sample = samples.at(statistic.Sample);
+            const Verdict verdict = Judge(statistic, sample);
+            check.Demand(verdict.PValue > FalseAlarm, "P value " + Significant(verdict.PValue));
+            rows.push_back(RowOf(statistic, sample, verdict));
+            alarms += verdict.Freedom > 0 ? FalseAlarm : 0;
+        });
     record.Run("ASG-6.1", "Every random choice has the documented distribution", Chapter::Statistics,
                [&](Check& check) {
-                   samples = MakeSamples(session, record);
-                   verdicts = JudgeAll(check, samples);
+                   check.Demand(rows.size() == AllStatistics().size(), "a sample is missing");
+                   check.Demand(alarms < 5e-7, "the false alarms are too likely");
+                   check.Exhibits = {
+                       {"The program's random choices, with the entropy of this machine",
+                        {"Hypothesis", "Sample", "Degrees of freedom", "Chi-square", "P value",
+                         "Smallest fault found with 99 per cent"},
+                        rows},
+                       {"A statistic fails at a P value of " + Significant(FalseAlarm) +
+                        " or less, in the upper tail. A right program fails any of them with a probability "
+                        "of " +
+                        Significant(alarms) +
+                        ", the sum over all; with the error of the chi-square approximation, below 1e-06. "
+                        "Equal lists by chance are rarer than 1e-15 and left out."}};
                });
-    for (std::size_t i = 0; i < verdicts.size(); ++i)
-        record.Run(AllStatistics()[i].Identifier, AllStatistics()[i].Hypothesis, Chapter::Statistics,
-                   [&](Check& check) {
-                       check.Demand(verdicts[i].Passed, "P value " + Significant(verdicts[i].PValue));
-                   });
-    return samples;
+    CheckStatisticsFindFaults(record, samples);
 }
 
 } // namespace orvane::validation

@@ -2,8 +2,10 @@
 // machine; and the faults that the statistics must find.
 #pragma once
 
-#include "validation/lists/session.h"
+#include "validation/lists/setup.h"
+#include "validation/record.h"
 
+#include <map>
 #include <random>
 #include <span>
 #include <string>
@@ -17,11 +19,11 @@ using Texts = std::vector<std::string>;
 /// What is kept of the lists of one set-up, in their order.
 struct Sample {
     ListSetup Setup;
-    int FullLists = 0; ///< number in a full validation
-    int QuickLists = 0;
     Texts Blocks{}; ///< the groups of each block, such as "ABBA"
     Texts Codes{};  ///< none if they are sequential
 };
+
+using Samples = std::map<QString, Sample>; ///< by the names that the table samples.csv gives them
 
 /// A block or a code of a sample, and the one before it.
 struct Spot {
@@ -60,7 +62,7 @@ struct Law {
 struct Statistic {
     std::string Identifier; ///< of its check
     std::string Hypothesis;
-    std::size_t Kind = 0; ///< of its sample
+    QString Sample; ///< its name
     Law (*LawOf)(const ListSetup&, ResultsOf) = nullptr;
     ResultsOf Results = nullptr;
     std::string Unit;        ///< what is drawn, such as "blocks"
@@ -69,14 +71,21 @@ struct Statistic {
 
 const std::vector<Statistic>& AllStatistics();
 
+/// The probability that a right program fails one statistic: the P value at which it fails.
+constexpr double FalseAlarm = 2e-8;
+
 struct Verdict {
     double Draws = 0;
-    double Value = 0;  ///< of Pearson's statistic
-    double PValue = 0; ///< of the upper tail: counts that are too even are no fault
-    bool Passed = false;
+    double Freedom = 0; ///< that of the law
+    double Value = 0;   ///< of Pearson's statistic
+    double PValue = 0;  ///< of the upper tail: counts that are too even are no fault
 };
 
+/// Throws std::runtime_error if the sample is empty.
 Verdict Judge(const Statistic& statistic, const Sample& sample);
+
+/// REC-1.3: every statistic judges its sample with a fault in it, and must find it.
+void CheckStatisticsFindFaults(Record& record, const Samples& samples);
 
 /// A block before it is shuffled: "ABAB".
 std::string Dealt(int size, int groups);

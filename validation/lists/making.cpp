@@ -1,4 +1,5 @@
 #include "validation/checks.h"
+#include "validation/draws/known_key.h"
 #include "validation/draws/second_program.h"
 #include "validation/lists/rules.h"
 
@@ -9,7 +10,6 @@
 #include <set>
 
 namespace orvane::validation {
-
 namespace {
 
 constexpr std::size_t QuickLists = 10;
@@ -41,7 +41,7 @@ std::vector<MadeList> Make(Session& session, const std::vector<ListSetup>& setup
     int chances = 3; // every list that fails takes a minute
     for (const ListSetup& setup : setups) {
         if (!second || setup.Input != Way::Loaded) {
-            const Key key = KeyNumber(static_cast<std::uint32_t>(setup.Number));
+            const QByteArray key = KeyNumber(setup.Number);
             session.Restart(setup.Input == Way::Started ? setup : OtherThan(setup), WithKey(key));
             second.emplace(key);
         }
@@ -136,12 +136,12 @@ void CheckEach(Record& record, const std::string& identifier, const std::string&
 
 } // namespace
 
-std::vector<MadeList> CheckLists(Record& record, Session& session) {
-    const std::vector<ListSetup> setups = ReadSetups();
+void CheckLists(Record& record, Session& session) {
+    const std::vector<ListSetup> setups = ReadSetups(SETUPS);
     std::vector<ListSetup> used = setups;
     if (record.Quick)
         used.resize(QuickLists);
-    std::vector<MadeList> lists = Make(session, used);
+    const std::vector<MadeList> lists = Make(session, used);
     record.Run("USE-4.1", "The choices that the lists cover", Chapter::Lists,
                [&](Check& check) { CheckCoverage(check, setups, used.size()); });
     record.Run("USE-4.2", "The lists are made through the windows", Chapter::Lists, [&](Check& check) {
@@ -158,7 +158,7 @@ std::vector<MadeList> CheckLists(Record& record, Session& session) {
                   const bool isEqual = list.RunsMessage == list.Predicted.RunsMessage;
                   return isEqual ? "" : "the message \"" + list.RunsMessage + "\"";
               });
-    return lists;
+    CheckRulesFindFaults(record, lists);
 }
 
 } // namespace orvane::validation

@@ -7,7 +7,6 @@
 #include <functional>
 
 namespace orvane::validation {
-
 namespace {
 
 constexpr std::size_t TextColumn = 20; // width of a column in characters

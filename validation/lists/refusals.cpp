@@ -3,7 +3,6 @@
 #include "validation/draws/known_key.h"
 
 namespace orvane::validation {
-
 namespace {
 
 namespace fs = std::filesystem;
@@ -139,7 +138,7 @@ void CheckCharacters(Check& check, Session& session) {
 }
 
 void CheckSettings(Check& check, Session& session) {
-    std::vector<ListSetup> setups = ReadSetups();
+    std::vector<ListSetup> setups = ReadSetups(SETUPS);
     setups.resize(4);
     const fs::path given = session.Display().Folder() / "given.stg";
     const fs::path saved = session.Display().Folder() / "saved again.stg";

@@ -9,7 +9,6 @@
 #include <set>
 
 namespace orvane::validation {
-
 namespace {
 
 using Block = std::vector<Subject>;
@@ -29,35 +28,16 @@ bool EvenBlocks(const MadeList& list) {
     return true;
 }
 
-/// The sizes that a block may have.
-std::set<int> AllowedSizes(const ListSetup& setup) {
-    if (setup.Blocks == BlockOption::One)
-        return {setup.SampleSize};
-    if (setup.Blocks == BlockOption::Equal)
-        return {setup.EqualSize};
-    if (setup.Blocks == BlockOption::Listed)
-        return {setup.ListedSizes.begin(), setup.ListedSizes.end()};
-    std::set<int> sizes;
-    const int share = setup.SampleSize / setup.GroupCount() + 1;
-    for (int deals = std::max(1, share / 5); deals <= std::max(1, share / 3); ++deals)
-        sizes.insert(deals * setup.GroupCount());
-    return sizes;
-}
-
-/// Whether every block has an allowed size, and the list ends with the block that gives it enough subjects:
-/// the sample size, or more than that if the sizes are equal or random.
+/// Whether every block has an allowed size, and the list ends with the block that gives it enough subjects.
 bool BlocksAsChosen(const MadeList& list) {
-    const std::set<int> allowed = AllowedSizes(list.Setup);
-    const bool exceeds =
-        list.Setup.Blocks == BlockOption::Equal || list.Setup.Blocks == BlockOption::RandomSizes;
-    const int enough = list.Setup.SampleSize + (exceeds ? 1 : 0);
+    const std::vector<int> allowed = AllowedSizes(list.Setup);
     int subjects = 0;
     for (const Block& block : list.Blocks) {
-        if (subjects >= enough || !allowed.contains(Size(block)))
+        if (subjects >= Enough(list.Setup) || std::ranges::count(allowed, Size(block)) == 0)
             return false;
         subjects += Size(block);
     }
-    return subjects >= enough;
+    return subjects >= Enough(list.Setup);
 }
 
 std::vector<std::string> Codes(const MadeList& list) {

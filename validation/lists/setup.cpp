@@ -8,7 +8,6 @@
 #include <stdexcept>
 
 namespace orvane::validation {
-
 namespace {
 
 const QStringList Ways = {"started", "typed", "loaded"};
@@ -20,7 +19,7 @@ const QStringList Forms = {"text file", "web page", "window", "clipboard"};
 template <typename Choice>
 Choice ChoiceOf(const QStringList& choices, const QString& cell) {
     if (!choices.contains(cell))
-        throw std::runtime_error("setups.csv has the unknown choice " + cell.toStdString());
+        throw std::runtime_error("a set-up has the unknown choice " + cell.toStdString());
     return static_cast<Choice>(choices.indexOf(cell));
 }
 
@@ -33,9 +32,10 @@ std::string GroupName(int group, bool isLong) {
 
 ListSetup SetupOf(const std::map<QString, QString>& cells) {
     const QStringList codes = cells.at("codes").split(' ');
+    const QStringList blocks = cells.at("blocks").split(" x");
     ListSetup setup;
     setup.Input = ChoiceOf<Way>(Ways, cells.at("input"));
-    setup.Blocks = ChoiceOf<BlockOption>(BlockOptions, cells.at("blocks"));
+    setup.Blocks = ChoiceOf<BlockOption>(BlockOptions, blocks.first());
     setup.RandomCodes = codes.first() == "random";
     setup.Characters = ChoiceOf<Alphabet>(Alphabets, codes.last());
     setup.Output = ChoiceOf<Form>(Forms, cells.at("form"));
@@ -51,7 +51,7 @@ ListSetup SetupOf(const std::map<QString, QString>& cells) {
     for (int group = 1; group <= groups; ++group)
         setup.Groups.push_back(GroupName(group, cells.at("names") == "long"));
     if (setup.Blocks == BlockOption::Equal)
-        setup.EqualSize = 2 * groups;
+        setup.EqualSize = blocks.last().toInt() * groups;
     if (setup.Blocks == BlockOption::Listed) {
         setup.ListedSizes = {2 * groups, 3 * groups, 4 * groups};
         const QString text = "%1, %2-%2,0%3"; // in all the ways that a user may type them
@@ -62,17 +62,17 @@ ListSetup SetupOf(const std::map<QString, QString>& cells) {
 
 } // namespace
 
-std::vector<ListSetup> ReadSetups() {
-    QFile file(SETUPS);
+std::vector<ListSetup> ReadSetups(const char* name) {
+    QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("setups.csv cannot be read");
+        throw std::runtime_error(std::string(name) + " cannot be read");
     QStringList lines = QString::fromLatin1(file.readAll()).split('\n', Qt::SkipEmptyParts);
     const QStringList columns = lines.takeFirst().split(',');
     std::vector<ListSetup> setups;
     for (const QString& line : lines) {
         const QStringList cells = line.split(',');
         if (cells.size() != columns.size())
-            throw std::runtime_error("setups.csv has a wrong number of cells in " + line.toStdString());
+            throw std::runtime_error("a set-up has a wrong number of cells: " + line.toStdString());
         std::map<QString, QString> choices;
         for (qsizetype column = 0; column < columns.size(); ++column)
             choices[columns[column]] = cells[column];
@@ -93,6 +93,25 @@ driving::SettingsText SettingsOf(const ListSetup& setup) {
             .EqBlockSize = setup.EqualSize == 0 ? "" : std::to_string(setup.EqualSize),
             .UnEqBlockSize = setup.ListedSizesText,
             .OutputOption = std::max(0, static_cast<int>(setup.Output) - 1)}; // a form of file is no option
+}
+
+std::vector<int> AllowedSizes(const ListSetup& setup) {
+    if (setup.Blocks == BlockOption::One)
+        return {setup.SampleSize};
+    if (setup.Blocks == BlockOption::Equal)
+        return {setup.EqualSize};
+    if (setup.Blocks == BlockOption::Listed)
+        return setup.ListedSizes;
+    std::vector<int> sizes;
+    const int share = setup.SampleSize / setup.GroupCount() + 1;
+    for (int deals = std::max(1, share / 5); deals <= std::max(1, share / 3); ++deals)
+        sizes.push_back(deals * setup.GroupCount());
+    return sizes;
+}
+
+int Enough(const ListSetup& setup) {
+    const bool exceeds = setup.Blocks == BlockOption::Equal || setup.Blocks == BlockOption::RandomSizes;
+    return setup.SampleSize + (exceeds ? 1 : 0);
 }
 
 int ShortestCode(int sampleSize) {

@@ -43,13 +43,20 @@ struct ListSetup {
     [[nodiscard]] bool RunsTest() const { return !Level.empty(); }
 };
 
-/// The set-ups of the file setups.csv, numbered from 1. Below a line that names the columns it has one line a
-/// set-up, with cells divided by commas. Equal blocks hold each group twice; listed ones hold it two, three
-/// or four times. Throws std::runtime_error that names a wrong line.
-std::vector<ListSetup> ReadSetups();
+/// The set-ups of a file, numbered from 1. Below a line that names the columns it has one line a set-up, with
+/// cells divided by commas. "equal blocks x2" hold each group twice; listed ones hold it two, three or four
+/// times. Throws std::runtime_error that names a wrong line.
+std::vector<ListSetup> ReadSetups(const char* name);
 
 /// The part of a set-up that a settings file holds.
 driving::SettingsText SettingsOf(const ListSetup& setup);
+
+/// The sizes that a block may have, in ascending order.
+std::vector<int> AllowedSizes(const ListSetup& setup);
+
+/// The number of subjects at which a list ends: one more than the sample size if blocks have equal or random
+/// sizes.
+int Enough(const ListSetup& setup);
 
 /// The shortest code that the options window allows for a sample size.
 int ShortestCode(int sampleSize);

@@ -1,12 +1,9 @@
-#include "validation/checks.h"
-
 #include "validation/lists/rules.h"
 
 #include <algorithm>
 #include <stdexcept>
 
 namespace orvane::validation {
-
 namespace {
 
 using Lists = std::vector<MadeList>;

@@ -1,8 +1,10 @@
-// What was examined, on which machine, and with which libraries.
+// One validation: what was examined, on which machine and with which libraries, and its record.
 #pragma once
 
 #include "validation/lists/session.h"
 #include "validation/record.h"
+
+#include <QByteArray>
 
 #include <filesystem>
 #include <string>
@@ -34,5 +36,16 @@ std::vector<Row> FilesBelow(const std::filesystem::path& folder);
 
 /// The SHA-256 of a file in hexadecimal digits. Throws std::runtime_error.
 std::string Sha256(const std::filesystem::path& file);
+
+/// "Conclusion: PASSED" or "Conclusion: FAILED", and what failed, a line each: only one line if all has
+/// passed. A requirement without a check fails.
+std::vector<std::string> Conclusion(const Record& record);
+
+/// The whole record as a PDF on A4.
+/// Requires: a QGuiApplication.
+QByteArray RecordPdf(const Record& record, const Run& run);
+
+/// Conclusion and checks as JSON.
+QByteArray RecordJson(const Record& record, const Run& run);
 
 } // namespace orvane::validation
