@@ -49,10 +49,9 @@ std::vector<Row> MappedFiles(Session& session) {
     return rows;
 }
 
-std::string Origin(const fs::path& program, const Sources& sources) {
-    if (!fs::exists(sources.Built) || Sha256(program) != Sha256(sources.Built))
-        return "not built from the sources of this validation";
-    return "built from commit " + sources.Commit;
+std::string Origin(const fs::path& program, const std::string& commit) {
+    const bool isBuilt = fs::exists(BUILT_PROGRAM) && Sha256(program) == Sha256(BUILT_PROGRAM);
+    return isBuilt ? "built from commit " + commit : "not built from the sources of this validation";
 }
 
 } // namespace
@@ -78,7 +77,7 @@ std::vector<Row> FilesBelow(const fs::path& folder) {
     return files;
 }
 
-Run Identify(const fs::path& folder, Session& session, const Sources& sources) {
+Run Identify(const fs::path& folder, Session& session, const std::string& commit) {
     const ListSetup setup{.SampleSize = 20};
     session.Restart(setup);
     Run what;
@@ -91,7 +90,7 @@ Run Identify(const fs::path& folder, Session& session, const Sources& sources) {
     what.Facts = {
         {"Program", "Orvane Software, version " + what.Version + " as its About box shows"},
         {"Folder", fs::canonical(folder).string()},
-        {"Origin", Origin(folder / "orvane", sources)},
+        {"Origin", Origin(folder / "orvane", commit)},
         {"Operating system", QSysInfo::prettyProductName().toStdString() + ", kernel " +
                                  QSysInfo::kernelVersion().toStdString() + ", " +
                                  QSysInfo::currentCpuArchitecture().toStdString()},

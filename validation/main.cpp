@@ -19,24 +19,21 @@ struct Arguments {
     fs::path Program;
     fs::path Output;
     bool Quick;
-    Sources Origin;
+    std::string Commit;
 };
 
 Arguments ReadArguments(const QCoreApplication& application) {
     QCommandLineParser parser;
     parser.addPositionalArgument("program", "The folder of the delivered program.");
     parser.addPositionalArgument("output", "The folder of the record, which is replaced.");
-    parser.addOptions({{"quick", "Fewer lists and smaller samples."},
-                       {"built", "The program that was built from the sources.", "file"},
-                       {"commit", "The commit of the sources.", "text"}});
+    parser.addOptions(
+        {{"quick", "Fewer lists and smaller samples."}, {"commit", "The commit of the sources.", "text"}});
     parser.process(application);
     const QStringList folders = parser.positionalArguments();
     if (folders.size() != 2)
         parser.showHelp(2);
-    return {folders[0].toStdString(),
-            fs::absolute(folders[1].toStdString()),
-            parser.isSet("quick"),
-            {parser.value("built").toStdString(), parser.value("commit").toStdString()}};
+    return {folders[0].toStdString(), fs::absolute(folders[1].toStdString()), parser.isSet("quick"),
+            parser.value("commit").toStdString()};
 }
 
 /// Writes the record beside its evidence, and then puts the whole in the place of the one before.
@@ -61,7 +58,7 @@ int Validate(const Arguments& arguments) {
     const fs::path work = output.string() + ".unfinished";
     fs::remove_all(work);
     Session session(arguments.Program, work / "lists");
-    Run run = Identify(arguments.Program, session, arguments.Origin);
+    Run run = Identify(arguments.Program, session, arguments.Commit);
     std::cout << "Validation of version " << run.Version << " in " << arguments.Program << std::endl;
     Record record{arguments.Quick};
     const auto announce = [](const char* chapter) { std::cout << "Chapter " << chapter << std::endl; };

@@ -40,15 +40,6 @@ struct Check {
     [[nodiscard]] std::string Result() const { return Faults.empty() ? "passed" : "failed"; }
 };
 
-/// What the program is required to do, with an identifier that stays the same from version to version.
-struct Requirement {
-    std::string Identifier;
-    std::string Text;
-};
-
-/// The most serious for a trial first.
-const std::vector<Requirement>& Requirements();
-
 struct Record {
     bool Quick = false; ///< fewer lists and smaller samples
     std::vector<Check> Checks{};
@@ -56,8 +47,6 @@ struct Record {
     /// Runs one check and stores its result. An exception is a fault.
     void Run(const std::string& identifier, const std::string& title, Chapter place,
              const std::function<void(Check&)>& judge);
-    /// `full` in a full validation, else `quick`.
-    [[nodiscard]] int Size(int full, int quick) const { return Quick ? quick : full; }
 };
 
 } // namespace orvane::validation

@@ -8,9 +8,10 @@
 #include <QJsonObject>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QRegularExpression>
 #include <QTextDocument>
 
-#include <algorithm>
+#include <map>
 
 namespace orvane::validation {
 namespace {
@@ -43,7 +44,7 @@ QString Table(const Exhibit& table) {
     QString head = row(table.Head, "th");
     // The caption takes part in the layout of the columns, so that these need their widths in per cent.
     constexpr std::pair<const char*, int> widths[] = {
-        {"SHA-256<", 58}, {"Requirement<", 58}, {"What it shows<", 58}, {"Value<", 58}, {"codes<", 14}};
+        {"SHA-256<", 58}, {"Hypothesis<", 36}, {"What it shows<", 58}, {"Value<", 58}, {"codes<", 14}};
     for (const auto& [name, width] : widths)
         head.replace(QString(">") + name, QString(" width='%1%'>").arg(width) + name);
     html += head + "</thead>\n";
@@ -52,18 +53,26 @@ QString Table(const Exhibit& table) {
     return html + "</table>\n<p class='gap'>&nbsp;</p>\n";
 }
 
-QString RequirementTable(const Record& record) {
-    std::vector<Row> rows;
-    for (const Requirement& requirement : Requirements()) {
-        rows.push_back({requirement.Identifier, requirement.Text, ""});
-        for (const Check& check : record.Checks)
-            if (check.Requirement() == requirement.Identifier)
-                rows.back()[2] +=
-                    (rows.back()[2].empty() ? "" : ", ") + check.Identifier + " " + check.Result();
+/// The text of the record. Words in braces mark the places for findings: a requirement such as {ASG-1} has
+/// one for its checks.
+QString RecordText() {
+    QFile file(RECORD_TEXT);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("record.html cannot be read");
+    return QString::fromUtf8(file.readAll());
+}
+
+/// The requirements of the text, each with its checks and their results.
+std::map<std::string, std::string> Requirements(const Record& record) {
+    std::map<std::string, std::string> requirements;
+    for (const QRegularExpressionMatch& place :
+         QRegularExpression("{([A-Z]+-\\d+)}").globalMatch(RecordText()))
+        requirements[place.captured(1).toStdString()] = "";
+    for (const Check& check : record.Checks) {
+        std::string& checks = requirements.at(check.Requirement());
+        checks += (checks.empty() ? "" : "\n") + check.Identifier + " " + check.Result();
     }
-    return Table({"Requirements and their checks, the most serious for a trial first",
-                  {"Identifier", "Requirement", "Checks"},
-                  rows});
+    return requirements;
 }
 
 /// The checks of a chapter and their evidence.
@@ -88,12 +97,8 @@ QString Evidence(const Record& record, Chapter chapter) {
     return Table({"Checks", {"Check", "What it shows", "Result"}, rows}) + exhibits;
 }
 
-/// The text of record.html with the findings in the places that it has for them.
 QString Filled(const Record& record, const Run& run, const QString& title) {
-    QFile file(RECORD_TEXT);
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("record.html cannot be read");
-    QString html = QString::fromUtf8(file.readAll());
+    QString html = RecordText();
     QString conclusion;
     for (const std::string& line : Conclusion(record))
         conclusion += "<b>" + Paragraph(line) + "</b>";
@@ -104,7 +109,8 @@ QString Filled(const Record& record, const Run& run, const QString& title) {
                                           "table of the code page (gconv)",
                                           {"File", "Folder", "SHA-256"},
                                           run.Mapped}));
-    html.replace("{requirements}", RequirementTable(record));
+    for (const auto& [requirement, checks] : Requirements(record))
+        html.replace(QString("{%1}").arg(requirement.c_str()), Escaped(checks));
     for (int chapter = 3; chapter <= 8; ++chapter)
         html.replace(QString("{%1}").arg(chapter), Evidence(record, static_cast<Chapter>(chapter)));
     return html.replace("{checksum}", QString::fromStdString(run.Checksum));
@@ -136,9 +142,9 @@ std::vector<std::string> Conclusion(const Record& record) {
         if (!check.Faults.empty())
             lines.push_back("Chapter " + std::to_string(static_cast<int>(check.Place)) + ", " +
                             check.Identifier + " " + check.Title + ": " + check.Faults.front());
-    for (const Requirement& requirement : Requirements())
-        if (std::ranges::count(record.Checks, requirement.Identifier, &Check::Requirement) == 0)
-            lines.push_back("Requirement " + requirement.Identifier + " has no check.");
+    for (const auto& [requirement, checks] : Requirements(record))
+        if (checks.empty())
+            lines.push_back("Requirement " + requirement + " has no check.");
     lines.front() = std::string("Conclusion: ") + (lines.size() == 1 ? "PASSED, " : "FAILED, ") +
                     std::to_string(record.Checks.size()) + " checks" +
                     (record.Quick ? "; quick form, with fewer lists and smaller samples" : "");

@@ -12,12 +12,6 @@
 
 namespace orvane::validation {
 
-/// Where the program of these sources is, and their state.
-struct Sources {
-    std::filesystem::path Built; ///< the program that was built from them
-    std::string Commit;          ///< with the number of changed files
-};
-
 /// One validation: what was examined, and how.
 struct Run {
     std::string Version; ///< that the program shows in its About box
@@ -29,7 +23,8 @@ struct Run {
 };
 
 /// Starts the program, asks for its version, and makes a list, so that everything it loads is loaded.
-Run Identify(const std::filesystem::path& folder, Session& session, const Sources& sources);
+/// `commit` is that of the sources, and belongs to the program only if it was built from them.
+Run Identify(const std::filesystem::path& folder, Session& session, const std::string& commit);
 
 /// Name, bytes and SHA-256 of each file in a folder and those below it.
 std::vector<Row> FilesBelow(const std::filesystem::path& folder);

@@ -98,11 +98,7 @@ void ShowLists(Check& check, const std::vector<MadeList>& lists) {
         check.Demand(list.NotMade.empty(), "list " + NumberOf(list) + ": " + list.NotMade);
     }
     head.insert(head.end(), {"blocks", "shuffles", "codes drawn again"});
-    check.Exhibits.push_back(
-        {"The lists. \"Started\" is read by the program at its start; \"typed\" and \"loaded\" replace "
-         "other settings. Every file was opened in the program for its type. Shuffles beyond the number of "
-         "blocks follow upon rejections by the Runs test",
-         head, rows});
+    check.Exhibits.push_back({"The lists", head, rows});
 }
 
 /// One table of all rules and all lists.
