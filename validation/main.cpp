@@ -1,5 +1,4 @@
 // Checks the delivered program and writes the record of it.
-#include "validation/checks.h"
 #include "validation/run.h"
 
 #include <QCommandLineParser>

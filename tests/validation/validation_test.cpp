@@ -1,5 +1,5 @@
 // The quick form of the validation, as a user runs it, and the proof of its second program.
-#include "validation/checks.h"
+#include "validation/record.h"
 
 #include <gtest/gtest.h>
 

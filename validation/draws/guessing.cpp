@@ -1,7 +1,7 @@
 // How often an investigator guesses the next assignment right with the convergence strategy of Blackwell and
 // Hodges (1957): always name the group with the fewest assignments so far. The investigator sees every
 // earlier assignment, does not know where blocks end, and names any of the groups that have the fewest.
-#include "validation/checks.h"
+#include "validation/record.h"
 
 #include <QString>
 

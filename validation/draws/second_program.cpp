@@ -1,6 +1,6 @@
-#include "validation/draws/second_program.h"
+#include "validation/draws/known_key.h"
 
-#include "validation/checks.h"
+#include "validation/lists/session.h"
 
 #include <QString>
 

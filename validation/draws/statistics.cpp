@@ -1,7 +1,7 @@
 #include "validation/draws/statistics.h"
 
-#include "validation/checks.h"
 #include "validation/draws/known_key.h"
+#include "validation/lists/session.h"
 
 #include <boost/math/distributions/non_central_chi_squared.hpp>
 

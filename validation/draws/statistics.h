@@ -51,8 +51,8 @@ using ResultsOf = Texts (*)(std::span<const std::string> texts);
 
 /// What a right program gives.
 struct Law {
-    std::unordered_map<std::string, double>
-        Results{}; ///< with their probabilities; any other result is impossible
+    /// With their probabilities. Any other result is impossible.
+    std::unordered_map<std::string, double> Results{};
     /// Degrees of freedom of Pearson's statistic. If 0, only an impossible result is a fault.
     double Freedom = 0;
     /// Factor of Pearson's statistic: less than 1 if a block settles how often a group occurs in it.

@@ -1,7 +1,6 @@
-#include "validation/checks.h"
 #include "validation/draws/known_key.h"
-#include "validation/draws/second_program.h"
-#include "validation/lists/rules.h"
+#include "validation/lists/list.h"
+#include "validation/lists/session.h"
 
 #include <QString>
 

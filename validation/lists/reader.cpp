@@ -1,4 +1,4 @@
-#include "validation/lists/reader.h"
+#include "validation/lists/list.h"
 
 #include <QRegularExpression>
 

@@ -1,4 +1,4 @@
-#include "validation/checks.h"
+#include "validation/lists/session.h"
 
 #include "validation/draws/known_key.h"
 
@@ -13,77 +13,34 @@ using driving::SettingsText;
 
 constexpr const char* Report = "Error Description: ";
 
-/// Input that must be refused: a text typed into a box, beside this set-up.
-struct Refusal {
-    ListSetup Setup;
-    const char* Box;
-    const char* Typed;
-    std::vector<std::string> Messages; ///< in their order
-};
-
-constexpr const char* SampleBox = "Sample Size";
-constexpr const char* LevelBox = "Level of significance";
-
-std::vector<Refusal> Refusals() {
-    const ListSetup plain{.SampleSize = 20};
-    const ListSetup equal{.Blocks = BlockOption::Equal, .SampleSize = 20};
-    const ListSetup listed{.Blocks = BlockOption::Listed, .SampleSize = 20};
-    const ListSetup large{.Blocks = BlockOption::Equal, .CodeLength = 6, .SampleSize = 32767};
-    const char* const equalBox = "Size of Equal Blocks";
-    const char* const listedBox = "Random Block Sizes";
-    const std::string noSample = "please specify the sample size";
-    const std::string noSize = "please specify the block size";
-    const std::string noSizes = "please specify block sizes";
-    const std::string wrongSizes = "Error in the value of block sizes";
-    const std::string smaller = ", please choose smaller blocks or a smaller sample size";
-    const std::string wrongLevel = "Significance level must be greater than 0 ad less than 0.35";
-    return {
-        {plain, SampleBox, "", {noSample}},
-        {plain, SampleBox, "none yet", {noSample}},
-        {plain, SampleBox, "-5", {noSample}},
-        {plain, SampleBox, "40000", {"the sample size can be at most 32767"}},
-        {equal, equalBox, "", {noSize}},
-        {equal, equalBox, "-4", {noSize}},
-        {equal, equalBox, "0.4", {noSize}},
-        {equal, equalBox, "7", {"Block size must be divisable by the number of groups"}},
-        {equal, equalBox, "32768", {"the block size can be at most 32767"}},
-        {large, equalBox, "30000", {"the blocks hold more than 32767 subjects" + smaller}},
-        {equal, equalBox, "16000", {"a block can hold at most 14654 subjects" + smaller}},
-        {listed, listedBox, "", {noSizes}},
-        {listed, listedBox, "6;8", {noSizes}},
-        {listed, listedBox, "8-6", {noSizes}},
-        {listed, listedBox, "6,,8", {wrongSizes, noSizes}},
-        {listed, listedBox, "6-", {wrongSizes, noSizes}},
-        {listed, listedBox, "6, 9", {"block sizes must be divisable by the number of groups", noSizes}},
-        {plain, LevelBox, "", {wrongLevel}},
-        {plain, LevelBox, "0", {wrongLevel}},
-        {plain, LevelBox, "0,05", {wrongLevel}},
-        {plain, LevelBox, "0.31", {wrongLevel}},
-    };
-}
-
-void CheckRefusal(Check& check, Session& session, const Refusal& refusal) {
+/// Types what a line of the table has into its box, and expects its messages.
+void CheckRefusal(Check& check, Session& session, Choices line) {
     driving::Desktop& desktop = session.Display();
     driving::User& user = session.Person();
-    session.Restart(refusal.Setup);
-    const bool inOptions = refusal.Box != SampleBox;
+    const std::string box = line["box"].toStdString();
+    const std::string typed = line["typed"].toStdString();
+    session.Restart({.Blocks = BlockOptionOf(line["blocks"]),
+                     .CodeLength = 6,
+                     .SampleSize = line["sample size"].toInt()});
+    const bool inOptions = box != "Sample Size";
     const char* const title = inOptions ? OptionsTitle : MainTitle;
     if (inOptions)
         user.OpenOptions();
-    if (refusal.Box == LevelBox)
+    if (box == "Level of significance")
         desktop.Press({"ctrl+Tab", "ctrl+Tab", "ctrl+Tab"});
-    user.Fill(title, refusal.Box, refusal.Typed);
+    user.Fill(title, box, typed);
     desktop.Press({"Return"});
-    const std::string what = std::string("\"") + refusal.Typed + "\" as " + refusal.Box;
-    for (const std::string& expected : refusal.Messages)
-        check.Compare(what, expected, session.Told());
+    const std::string what = "\"" + typed + "\" as " + box;
+    for (const char* message : {"first message", "second message"})
+        if (!line[message].isEmpty())
+            check.Compare(what, line[message].toStdString(), session.Told());
     desktop.Await(title);
-    check.Demand(user.Find(title, "text", refusal.Box).Text == refusal.Typed, what + " is lost");
+    check.Demand(user.Find(title, "text", box).Text == typed, what + " is lost");
 }
 
 void CheckInput(Check& check, Session& session) {
-    for (const Refusal& refusal : Refusals())
-        CheckRefusal(check, session, refusal);
+    for (const Choices& line : ReadTable(REFUSALS, '|'))
+        CheckRefusal(check, session, line);
 }
 
 /// Expects a report of a failure in the message `told`, with this text in it.

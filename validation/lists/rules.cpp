@@ -1,6 +1,6 @@
-#include "validation/lists/rules.h"
+#include "validation/lists/list.h"
 
-#include "validation/draws/second_program.h"
+#include "validation/draws/known_key.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tools/driving/user.h"
-#include "validation/lists/reader.h"
+#include "validation/lists/list.h"
 
 #include <filesystem>
 #include <string>

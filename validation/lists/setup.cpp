@@ -30,12 +30,12 @@ std::string GroupName(int group, bool isLong) {
     return "Th\xE9rapie no " + std::to_string(group) + (group % 2 == 0 ? " & placebo" : " <10 mg, at night>");
 }
 
-ListSetup SetupOf(const std::map<QString, QString>& cells) {
+ListSetup SetupOf(const Choices& cells) {
     const QStringList codes = cells.at("codes").split(' ');
     const QStringList blocks = cells.at("blocks").split(" x");
     ListSetup setup;
     setup.Input = ChoiceOf<Way>(Ways, cells.at("input"));
-    setup.Blocks = ChoiceOf<BlockOption>(BlockOptions, blocks.first());
+    setup.Blocks = BlockOptionOf(blocks.first());
     setup.RandomCodes = codes.first() == "random";
     setup.Characters = ChoiceOf<Alphabet>(Alphabets, codes.last());
     setup.Output = ChoiceOf<Form>(Forms, cells.at("form"));
@@ -62,25 +62,36 @@ ListSetup SetupOf(const std::map<QString, QString>& cells) {
 
 } // namespace
 
-std::vector<ListSetup> ReadSetups(const char* name) {
+std::vector<Choices> ReadTable(const char* name, QChar separator) {
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error(std::string(name) + " cannot be read");
     QStringList lines = QString::fromLatin1(file.readAll()).split('\n', Qt::SkipEmptyParts);
-    const QStringList columns = lines.takeFirst().split(',');
-    std::vector<ListSetup> setups;
+    const QStringList columns = lines.takeFirst().split(separator);
+    std::vector<Choices> table;
     for (const QString& line : lines) {
-        const QStringList cells = line.split(',');
+        const QStringList cells = line.split(separator);
         if (cells.size() != columns.size())
-            throw std::runtime_error("a set-up has a wrong number of cells: " + line.toStdString());
-        std::map<QString, QString> choices;
+            throw std::runtime_error("a wrong number of cells in the line " + line.toStdString());
+        Choices& choices = table.emplace_back();
         for (qsizetype column = 0; column < columns.size(); ++column)
             choices[columns[column]] = cells[column];
+    }
+    return table;
+}
+
+std::vector<ListSetup> ReadSetups(const char* name) {
+    std::vector<ListSetup> setups;
+    for (const Choices& choices : ReadTable(name, ',')) {
         setups.push_back(SetupOf(choices));
         setups.back().Number = static_cast<int>(setups.size());
         setups.back().Choices = choices;
     }
     return setups;
+}
+
+BlockOption BlockOptionOf(const QString& cell) {
+    return ChoiceOf<BlockOption>(BlockOptions, cell);
 }
 
 driving::SettingsText SettingsOf(const ListSetup& setup) {

@@ -20,6 +20,9 @@ enum class Form { TextFile, WebPage, Window, Clipboard };
 /// settings file.
 enum class Way { Started, Typed, Loaded };
 
+/// The cells of one line of a table, by the names of their columns.
+using Choices = std::map<QString, QString>;
+
 struct ListSetup {
     int Number = 0; ///< of the list in the record, from 1
     Way Input = Way::Started;
@@ -34,18 +37,24 @@ struct ListSetup {
     std::string Level{}; ///< of the Runs test; empty when the test is off
     std::vector<std::string> Groups = {"Group 1", "Group 2"};
     int SampleSize = 0;
-    int EqualSize = 0;                    ///< of a block under BlockOption::Equal
-    std::vector<int> ListedSizes{};       ///< that a block may have under BlockOption::Listed
-    std::string ListedSizesText{};        ///< as the user types them
-    std::map<QString, QString> Choices{}; ///< its cells in the file, by the names of the columns
+    int EqualSize = 0;              ///< of a block under BlockOption::Equal
+    std::vector<int> ListedSizes{}; ///< that a block may have under BlockOption::Listed
+    std::string ListedSizesText{};  ///< as the user types them
+    validation::Choices Choices{};  ///< its line in the table
 
     [[nodiscard]] int GroupCount() const { return static_cast<int>(Groups.size()); }
     [[nodiscard]] bool RunsTest() const { return !Level.empty(); }
 };
 
-/// The set-ups of a file, numbered from 1. Below a line that names the columns it has one line a set-up, with
-/// cells divided by commas. "equal blocks x2" hold each group twice; listed ones hold it two, three or four
-/// times. Throws std::runtime_error that names a wrong line.
+/// The lines of a file, below one that names the columns. Throws std::runtime_error that names a line with a
+/// wrong number of cells.
+std::vector<Choices> ReadTable(const char* name, QChar separator);
+
+/// The option that a table names so. Throws std::runtime_error for any other text.
+BlockOption BlockOptionOf(const QString& cell);
+
+/// The set-ups of a table with commas, numbered from 1. "equal blocks x2" hold each group twice; listed ones
+/// hold it two, three or four times. Throws std::runtime_error that names what is wrong.
 std::vector<ListSetup> ReadSetups(const char* name);
 
 /// The part of a set-up that a settings file holds.

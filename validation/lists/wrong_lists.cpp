@@ -1,4 +1,4 @@
-#include "validation/lists/rules.h"
+#include "validation/lists/list.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,8 +1,9 @@
-// Writes a list in one of the four output forms, and reads a finished list back from its bytes. Written from
-// the description of the forms; shares no code with the program's reports.
+// Writes a list in one of the four output forms, reads a finished list back from its bytes, and holds it
+// against the rules. Written from the description of the forms; shares no code with the program's reports.
 #pragma once
 
 #include "validation/lists/setup.h"
+#include "validation/record.h"
 
 #include <string>
 #include <vector>
@@ -43,5 +44,25 @@ std::string WriteList(const Blocks& blocks, const ListSetup& setup);
 
 /// Sets Blocks and HasItsForm from the bytes of the list. Every byte is compared with the form.
 void ReadBack(MadeList& list);
+
+// The rules of a randomization list, judged from what was read back.
+
+struct Rule {
+    std::string Identifier; ///< of its check
+    std::string Text;
+    bool (*Applies)(const ListSetup&);
+    /// Whether a list follows the rule.
+    /// Requires: the rule applies to the list, and the list was read.
+    bool (*IsKept)(const MadeList&);
+};
+
+const std::vector<Rule>& Rules();
+
+/// Whether a list breaks a rule that applies to it. A list that was not made or cannot be read breaks all.
+bool Breaks(const MadeList& list, const Rule& rule);
+
+/// REC-1.1 and REC-1.2: every rule finds the fault that breaks it alone, and the rules find every changed
+/// byte. Requires: lists of all forms, block options and kinds of codes.
+void CheckRulesFindFaults(Record& record, const std::vector<MadeList>& lists);
 
 } // namespace orvane::validation
