@@ -61,12 +61,12 @@ int Validate(const Arguments& arguments) {
     std::cout << "Validation of version " << run.Version << " in " << arguments.Program << std::endl;
     Record record{arguments.Quick};
     const auto announce = [](const char* chapter) { std::cout << "Chapter " << chapter << std::endl; };
-    announce("3 and 4, lists from known keys");
+    announce("3 and 4, lists from known keys; 8, faults in them");
     CheckLists(record, session);
     CheckSecondProgram(record);
     announce("5, refusals and settings");
     CheckRefusals(record, session);
-    announce("6, statistics");
+    announce("6, statistics; 8, faults in their samples");
     CheckStatistics(record, session);
     announce("7, guessing");
     CheckGuessing(record);
