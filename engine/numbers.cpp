@@ -74,8 +74,6 @@ bool IsTooLarge(std::string_view number) {
     const std::string_view mantissa = number.substr(0, mark);
     const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
     const std::size_t lead = mantissa.find_first_not_of("0.");
-    if (lead == std::string_view::npos)
-        return false;
     std::string_view written = number.substr(std::min(mark + 1, number.size()));
     if (written.starts_with('+'))
         written.remove_prefix(1);
@@ -113,13 +111,10 @@ double DecimalValue(std::string text) {
 
 double NumericValueOrInfinity(std::string_view text) {
     const std::string number = WithoutWhiteSpace(text);
-    const std::string_view view = number;
-    if (view.size() >= 2 && view[0] == '&') {
-        if (view[1] == 'H' || view[1] == 'h')
-            return WholeNumber(view.substr(2), 16);
-        if (view[1] == 'O' || view[1] == 'o')
-            return WholeNumber(view.substr(2), 8);
-    }
+    if (number.starts_with("&H") || number.starts_with("&h"))
+        return WholeNumber(std::string_view(number).substr(2), 16);
+    if (number.starts_with("&O") || number.starts_with("&o"))
+        return WholeNumber(std::string_view(number).substr(2), 8);
     return DecimalValue(number);
 }
 

@@ -45,8 +45,7 @@ void RandomSource::UniformFill(std::span<float> values) {
 void RandomSource::UniformReseed(float value) {
     RequireKey();
     ChaChaWords input = input_;
-    input[ChaChaCounterAt] = 0;
-    input[ChaChaCounterAt + 1] = 0;
+    std::fill(input.begin() + ChaChaCounterAt, input.end(), 0U);
     input[ReseedValueAt] = std::bit_cast<std::uint32_t>(value);
     input[PurposeAt] = ForReseed;
     const ChaChaWords block = ChaChaBlock<SourceRounds>(input);

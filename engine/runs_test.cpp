@@ -51,8 +51,6 @@ float GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& messages) 
 
 // Needs no memory, so that a test cannot fail for lack of it.
 RunsCounts CountRuns(std::span<const std::int16_t> IntArr) {
-    if (IntArr.empty())
-        return {0, 0, 0};
     const float mean = MeanOf(IntArr);
     const auto isBelow = [mean](std::int16_t number) { return static_cast<float>(number) < mean; };
     RunsCounts counts{0, 0, 1};

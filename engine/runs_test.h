@@ -23,7 +23,7 @@ std::int16_t GetIntName(const std::vector<std::string>& groupNames, const std::s
 std::vector<std::int16_t> GroupNumbers(const std::vector<std::string>& groupNames);
 
 /// The P value of a block, `IntArr` holding the group number of each position. When the statistic has no
-/// value (0 divided by 0), a message says so and the result is 0. Requires: at most 32767 positions.
+/// value (0 divided by 0), a message says so and the result is 0. Requires: 1 to 32767 positions.
 float GetRandomness(std::span<const std::int16_t> IntArr, MessageBox& messages);
 
 /// The counts that the test rests on.

@@ -4,7 +4,7 @@
 #include "engine/random_draws.h"
 #include "platform/failure.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <unordered_set>
 
 namespace orvane {
@@ -30,9 +30,8 @@ std::string_view CharactersOf(std::int32_t alphaNum) {
 }
 
 std::string PadLeft(std::string text, std::int16_t length, char with) {
-    const auto width = static_cast<std::size_t>(std::max<std::int16_t>(length, 0));
-    if (text.size() < width)
-        text.insert(0, width - text.size(), with);
+    while (static_cast<std::ptrdiff_t>(text.size()) < length)
+        text.insert(text.begin(), with);
     return text;
 }
 

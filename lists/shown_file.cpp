@@ -4,8 +4,6 @@
 #include "platform/failure_report.h"
 #include "platform/text_file.h"
 
-#include <utility>
-
 namespace orvane {
 
 ShownFile::ShownFile(Platform& desktop, CommonDialog& CMDialog) : desktop_(desktop), CMDialog_(CMDialog) {
@@ -57,7 +55,7 @@ void ShownFile::SaveToText(const std::string& strFileName) {
 }
 
 void ShownFile::DeleteIfTemporary() {
-    if (!std::exchange(temporary_, false))
+    if (!temporary_)
         return;
     try {
         desktop_.FileSystem.Delete(OutputFileName_);

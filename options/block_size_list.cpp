@@ -91,8 +91,8 @@ bool BlockSizeList::ExpandItems(const std::string& S, std::vector<std::int16_t>&
             AppendCandidate(pool, size);
             continue;
         }
-        std::int16_t min = 0;
-        std::int16_t max = 0;
+        std::int16_t min{};
+        std::int16_t max{};
         GetMinMax(item, min, max);
         if (min == 0 || max == 0)
             return false;

@@ -79,7 +79,7 @@ std::string CodePage::Encode(std::string_view text, Unmappable unmappable) const
     std::string bytes;
     bytes.reserve(text.size());
     std::size_t index = 0;
-    while (index < text.size()) {
+    for (;;) {
         // Most text is ASCII, which is the same in every code page: copied without a look-up.
         const auto run =
             std::find_if_not(text.begin() + static_cast<std::ptrdiff_t>(index), text.end(), IsAscii);
@@ -87,7 +87,7 @@ std::string CodePage::Encode(std::string_view text, Unmappable unmappable) const
         bytes.append(text.substr(index, plain));
         index += plain;
         if (index == text.size())
-            break;
+            return bytes;
         const char32_t character = NextCharacter(text, index);
         if (const auto found = bytes_.find(character); found != bytes_.end())
             bytes += found->second;
@@ -99,7 +99,6 @@ std::string CodePage::Encode(std::string_view text, Unmappable unmappable) const
             throw Failure("The character " + Named(character) + " is not in the code page " + name_,
                           failure_number::UnmappableCharacter, "CodePage");
     }
-    return bytes;
 }
 
 std::vector<std::string> CodePage::CharactersNotHeld(std::string_view text) const {

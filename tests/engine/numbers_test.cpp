@@ -24,7 +24,7 @@ TEST(NumericValue, IsThatOfTheLongestBeginningThatIsANumber) {
         {"no number", 0, {"", "abc", "--5", ".", "-.", "inf", "nan", "x1"}},
         {"no number behind the mark of its base", 0, {"&o8", "&H", "&", "&X1"}},
         {"another notation behind the first digit", 0, {"0,05", "0x10"}},
-        {"zero", 0, {"0e999999", "-0.00e400"}},
+        {"zero", 0, {"0e999999", "-0.00e400", "0e99999999999999999999"}},
         {"too small", 0, {"1e-400", "-1e-400", "1e-99999999999999999999", "0.1e-9223372036854775808"}},
         {"too small with many digits", 0, {"0." + std::string(700, '0') + "1e300"}},
         {"an exponent without digits", 1, {"1e", "1e+"}},
@@ -37,9 +37,10 @@ TEST(NumericValue, IsThatOfTheLongestBeginningThatIsANumber) {
         {"a sign", 12, {"+12"}},
         {"a negative number", -5, {"-5", "- 5", "-5-5", "-.5e1", "-5d0"}},
         {"a fraction", 0.5, {".5", "+.5", "0.5"}},
-        {"an exponent", 0.5, {"5e-1", "50D-2x", "0.05E1"}},
+        {"an exponent", 0.5, {"5e-1", "50D-2x", "0.05D1"}},
         {"a large exponent", 1e10, {"1e10", "1d+010"}},
         {"hexadecimal digits", 44510, {"&HADDE", "&hadde", "&hAd dEg"}},
+        {"the first and the last digits", 2319, {"&H90F", "&h90f/"}},
         {"four hexadecimal digits are never negative", 65535, {"&HFFFF"}},
         {"octal digits", 12, {"&O14", "&o148"}},
     };
@@ -54,7 +55,8 @@ TEST(NumericValue, BeyondTheRangeIsAFailureOrInfinity) {
         EXPECT_EQ(NumericValueOrInfinity(text), Infinity) << text;
     EXPECT_EQ(NumericValueOrInfinity(std::string(400, '9') + ".0"), Infinity);
     EXPECT_EQ(NumericValueOrInfinity("&H" + std::string(400, 'F')), Infinity);
-    EXPECT_EQ(NumericValueOrInfinity("-0.01e9999999999"), -Infinity);
+    EXPECT_EQ(NumericValueOrInfinity("0.01e400"), Infinity);
+    EXPECT_EQ(NumericValueOrInfinity("-0.01e+400"), -Infinity);
     EXPECT_THROW(NumericValue("1e400"), Failure);
     EXPECT_THROW(NumericValue("-1e400"), Failure);
 }
@@ -85,6 +87,7 @@ TEST(Numbers, AreRoundedToNearestWithTiesToEven) {
 
 TEST(Numbers, FillTheirWidth) {
     EXPECT_EQ(Add16(32766, 1), 32767);
+    EXPECT_EQ(Subtract16(-32767, 1), -32768);
     EXPECT_EQ(Multiply32(146540, 14654), 2147397160);
 }
 
@@ -116,13 +119,15 @@ TEST(SevenDigits, NeedsNoExponent) {
     EXPECT_EQ(SevenDigits(-0.0F), "0");
     EXPECT_EQ(SevenDigits(0.398942280F), "0.3989423");
     EXPECT_EQ(SevenDigits(-1234.5678F), "-1234.568");
+    EXPECT_EQ(SevenDigits(1.5F), "1.5");
+    EXPECT_EQ(SevenDigits(12), "12");
     EXPECT_EQ(SevenDigits(1e-10F), "0.0000000001");
     EXPECT_EQ(SevenDigits(std::numeric_limits<float>::max()), "3402823" + std::string(32, '0'));
 }
 
 TEST(FourDecimals, RoundsAHalfAwayFromZero) {
     EXPECT_EQ(FourDecimals(0.03125F), "0.0313");
-    EXPECT_EQ(FourDecimals(0.31069F), "0.3107");
+    EXPECT_EQ(FourDecimals(0.39894228F), "0.3989");
     EXPECT_EQ(FourDecimals(0.00996F), "0.01");
     EXPECT_EQ(FourDecimals(0.00004F), "0");
 }

@@ -18,6 +18,16 @@ void ExpectValues(RandomSource& source, std::size_t taken, const std::map<std::s
         EXPECT_EQ(static_cast<std::uint32_t>(values.at(index) * 0x1p24F), expected) << "index " << index;
 }
 
+// Test vector 1 of draft-strombergson-chacha-test-vectors, for a key of 256 bits.
+TEST(ChaCha, GivesThePublishedBlockOfEightRounds) {
+    ChaChaWords input{};
+    std::copy(ChaChaConstants.begin(), ChaChaConstants.end(), input.begin());
+    EXPECT_EQ(ChaChaBlock<8>(input),
+              (ChaChaWords{0x2fef003e, 0xd6405f89, 0xe8b85b7f, 0xa1a5091f, 0xc30e842c, 0x3b7f9ace, 0x88e11b18,
+                           0x1e1a71ef, 0x72e14c98, 0x416f21b9, 0x6753449f, 0x19566d45, 0xa3424a31, 0x01b086da,
+                           0xb8fd7b38, 0x42fe0c0e}));
+}
+
 // The expected values come from an implementation of the cipher of its own, apart from this program.
 TEST(RandomSource, TheStreamIsThatOfItsKeyAndReseedsInEveryVersion) {
     for (const VectorKernels& kernels : RunnableKernels()) {
@@ -27,7 +37,15 @@ TEST(RandomSource, TheStreamIsThatOfItsKeyAndReseedsInEveryVersion) {
         ExpectValues(source, 1400,
                      {{0, 0x8fb215}, {31, 0xbda559}, {32, 0x6aab12}, {671, 0x727780}, {1399, 0x4815de}});
         source.UniformReseed(43200.5F);
-        ExpectValues(source, 800, {{0, 0xef6694}, {11, 0xca5f8b}, {681, 0x4acbf1}, {682, 0x53f8f7}});
+        ExpectValues(source, 800,
+                     {{0, 0xef6694},
+                      {3, 0x49abb6},
+                      {7, 0x19f824},
+                      {8, 0x85f9cc},
+                      {9, 0xe665d2},
+                      {11, 0xca5f8b},
+                      {681, 0x4acbf1},
+                      {682, 0x53f8f7}});
         source.UniformReseed(43200.5F);
         ExpectValues(source, 1, {{0, 0x06ee93}});
     }

@@ -88,6 +88,7 @@ TEST(SequenceBuilder, ASourceThatIsStuckAtAnArrangementThatFailsIsAFailure) {
     const Failure failure = bench.FailureOfBuild(4);
     EXPECT_EQ(failure.Number, failure_number::CannotPassRunsTest);
     EXPECT_EQ(failure.Description, "A block of 4 subjects did not pass the Runs test in 2000 attempts.");
+    EXPECT_EQ(bench.desktop.random.ReseededAt.size(), 2000U);
 }
 
 TEST(SequenceBuilder, RefusesABlockWithoutPositionsCodesOrGroups) {

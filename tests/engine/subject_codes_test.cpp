@@ -33,6 +33,18 @@ TEST(SubjectCodes, SequentialCodesCountInTheirAlphabet) {
     EXPECT_EQ(code(Mixed, 3, 36), "010");
 }
 
+TEST(SubjectCodes, RandomCodesReachBothEndsOfTheirAlphabet) {
+    const auto code = [](CodeAlphabets alphabet) {
+        Codes list(alphabet, Random, 3, {0, 1});
+        list.desktop.random.Values = {0, 0.5F, 0x1.fffffep-1F};
+        list.Make();
+        return list.results.CodeArr.at(0);
+    };
+    EXPECT_EQ(code(Alpha), "AMZ");
+    EXPECT_EQ(code(Numeric), "049");
+    EXPECT_EQ(code(Mixed), "0IZ");
+}
+
 TEST(SubjectCodes, RandomCodesAreDrawnUntilTheyDiffer) {
     Codes list(Numeric, Random, 2, {0, 1, 1});
     for (const int digit : {0, 9, 0, 9, 7, 0})
@@ -45,6 +57,7 @@ TEST(SubjectCodes, RandomCodesAreDrawnUntilTheyDiffer) {
 TEST(SubjectCodes, ASourceThatIsStuckIsAFailure) {
     Codes list(Numeric, Random, 1, {0, 2});
     EXPECT_EQ(FailureOf([&] { list.Make(); }).Number, failure_number::Unexpected);
+    EXPECT_EQ(list.desktop.random.Consumed, 1U + 5'000'000U);
 }
 
 TEST(SubjectCodes, AListThatNeedsMoreCodesThanThereAreIsRefusedBeforeTheFirstDraw) {

@@ -89,8 +89,8 @@ struct MemoryClipboard : Clipboard, Faults {
         Calls.push_back(call);
         return !Failing(call);
     }
-    GlobalHandle GlobalAlloc(std::uint32_t /*flags*/, std::size_t bytes) override {
-        if (!Works("GlobalAlloc"))
+    GlobalHandle GlobalAlloc(std::uint32_t flags, std::size_t bytes) override {
+        if (!Works("GlobalAlloc") || flags != 66) // movable and filled with zeros
             return 0;
         Block.assign(bytes, 'x');
         return 1;
@@ -106,8 +106,8 @@ struct MemoryClipboard : Clipboard, Faults {
         Works("EmptyClipboard");
         Content.clear();
     }
-    GlobalHandle SetClipboardData(std::uint32_t /*format*/, GlobalHandle block) override {
-        if (!Works("SetClipboardData"))
+    GlobalHandle SetClipboardData(std::uint32_t format, GlobalHandle block) override {
+        if (!Works("SetClipboardData") || format != 1) // plain text
             return 0;
         Content = Block.data();
         return block;

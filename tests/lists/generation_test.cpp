@@ -41,6 +41,8 @@ TEST(Generation, NeedsASampleSize) {
     EXPECT_EQ(desk.refused, 1);
     EXPECT_EQ(desk.window.Shown, Texts{});
     EXPECT_FALSE(desk.desktop.pointer.Busy);
+    desk.settings.SampleSize = 1;
+    EXPECT_NE(desk.ToTheWindow(), "not shown");
 }
 
 } // namespace

@@ -89,11 +89,14 @@ TEST(TextReport, PlacesCellsAtTheirColumnsOrOnTheNextLine) {
     EXPECT_EQ(list({n20, "B"}, {1}), "001: " + n20 + "\r\n" + Blanks(21) + "\r\n" + Rule(35));
     EXPECT_EQ(list({"", ""}, {1, 1}),
               "001: " + Blanks(16) + "\r\n" + Rule(35) + "002: " + Blanks(16) + "\r\n" + Rule(35));
+    EXPECT_EQ(ListDesk(9, {"A", "B"}, {1}).ToTheFile("list.txt"),
+              "001: A" + Blanks(155) + "\r\n" + Rule(142));
 }
 
 TEST(ClipboardReport, FillsItsColumnsAndRefusesAWiderCell) {
     ListDesk full(7, {"äöüäöüäö", "B"}, {1}, 8);
-    EXPECT_EQ(full.ToTheClipboard().substr(0, 22), "00000001: \xE4\xF6\xFC\xE4\xF6\xFC\xE4\xF6    ");
+    EXPECT_EQ(full.ToTheClipboard(),
+              "00000001: \xE4\xF6\xFC\xE4\xF6\xFC\xE4\xF6" + Blanks(2 + 6 * 18) + "\r\n" + Rule(130));
     EXPECT_EQ(full.desktop.messages.Take(), Copied);
     ListDesk wide(8, {"Group 1", "B"}, {1}, 10);
     EXPECT_EQ(wide.ToTheClipboard(), "earlier content");

@@ -64,7 +64,7 @@ TEST(ListOfBlockSizes, IsDrawnFromUntilTheBlocksReachTheSampleSize) {
         std::vector<float> draws;
         Sizes blocks;
     } rows[] = {
-        {"6, 8,10", 2, 20, {slot(2, 3), slot(3, 3), slot(1, 3)}, {8, 10, 6}},
+        {"6, 8,10", 2, 19, {slot(2, 3), slot(3, 3), slot(1, 3)}, {8, 10, 6}},
         {"16-12,4", 2, 6, {}, {4, 4}},
         {"4 ,6-9,8", 1, 15, {slot(6, 6), slot(5, 6)}, {8, 9}},
         {"006", 3, 12, {}, {6, 6}}, // an exact fit ends the drawing

@@ -46,6 +46,7 @@ struct OptionsBench : OptionsControls {
     }
     /// The sizes of the blocks, without slot 0.
     [[nodiscard]] std::vector<std::int16_t> Blocks() const {
+        EXPECT_EQ(results.BlockSizes.front(), 0);
         return {results.BlockSizes.begin() + 1, results.BlockSizes.end()};
     }
 

@@ -14,11 +14,12 @@ TEST(CodePage, ACharacterThatThePageLacksIsReplacedOrNamedInAFailure) {
     } rows[] = {
         {"among others", "ü≥€\r\n", "\xFC&#8805;\x80\r\n", "\"≥\" (U+2265)"},
         {"a large number", "😀", "&#128512;", "\"😀\" (U+1F600)"},
-        {"a byte that starts nothing", "x\xFFy", "x&#65533;y", "(U+FFFD)"},
+        {"a byte that starts nothing", "x\x80y", "x&#65533;y", "(U+FFFD)"},
         {"a start alone", "\xC3(", "&#65533;(", "(U+FFFD)"},
         {"cut off at the end", "\xE2\x82", "&#65533;&#65533;", "(U+FFFD)"},
         {"an A in two bytes", "\xC1\x81", "&#65533;&#65533;", "(U+FFFD)"},
-        {"a lone surrogate", "\xED\xA0\x80.", "&#65533;&#65533;&#65533;.", "(U+FFFD)"},
+        {"the first surrogate", "\xED\xA0\x80.", "&#65533;&#65533;&#65533;.", "(U+FFFD)"},
+        {"the last surrogate", "\xED\xBF\xBF.", "&#65533;&#65533;&#65533;.", "(U+FFFD)"},
     };
     const CodePage& page = WesternPage();
     for (const auto& row : rows) {
@@ -28,6 +29,12 @@ TEST(CodePage, ACharacterThatThePageLacksIsReplacedOrNamedInAFailure) {
         EXPECT_EQ(failure.Number, failure_number::UnmappableCharacter);
         EXPECT_NE(failure.Description.find(row.named), std::string::npos) << failure.Description;
     }
+}
+
+TEST(CodePage, EveryByteComesBackFromItsCharacter) {
+    std::string bytes(256, '\0');
+    std::iota(bytes.begin(), bytes.end(), '\0');
+    EXPECT_EQ(WesternPage().Encode(WesternPage().Decode(bytes), Unmappable::Fail), bytes);
 }
 
 } // namespace
