@@ -7,42 +7,38 @@ namespace {
 using namespace fakes;
 
 struct Codes {
-    Codes(CodeAlphabets alphabet, CodeOrders order, int length, std::vector<std::int16_t> blockSizes) {
+    Codes(CodeAlphabets alphabet, CodeOrders order, int length, std::vector<std::int16_t> blockSizes,
+          const std::vector<float>& draws = {}) {
         settings.CodeAlphaNum = alphabet;
         settings.CodeSeqRandom = order;
         settings.CodeLength = static_cast<std::int16_t>(length);
         results.BlockSizes = std::move(blockSizes);
+        desktop.random.Values = draws;
     }
     void Make() { CreateCodeArr(settings, results, desktop.random, desktop.clock); }
+    std::string Code(std::size_t position) {
+        Make();
+        return results.CodeArr.at(position - 1);
+    }
     FakeDesktop desktop;
     ListSettings settings;
     ListResults results;
 };
 
 TEST(SubjectCodes, SequentialCodesCountInTheirAlphabet) {
-    const auto code = [](CodeAlphabets alphabet, int length, std::size_t position) {
-        Codes list(alphabet, Sequential, length, {0, 900, 99});
-        list.Make();
-        return list.results.CodeArr.at(position - 1);
-    };
-    EXPECT_EQ(code(Numeric, 10, 999), "0000000999");
-    EXPECT_EQ(code(Alpha, 3, 25), "AAZ");
-    EXPECT_EQ(code(Alpha, 3, 26), "ABA");
-    EXPECT_EQ(code(Mixed, 3, 10), "00A");
-    EXPECT_EQ(code(Mixed, 3, 35), "00Z");
-    EXPECT_EQ(code(Mixed, 3, 36), "010");
+    const std::vector<std::int16_t> blocks = {0, 900, 99};
+    EXPECT_EQ(Codes(Numeric, Sequential, 10, blocks).Code(999), "0000000999");
+    EXPECT_EQ(Codes(Alpha, Sequential, 3, blocks).Code(25), "AAZ");
+    EXPECT_EQ(Codes(Alpha, Sequential, 3, blocks).Code(26), "ABA");
+    EXPECT_EQ(Codes(Mixed, Sequential, 3, blocks).Code(35), "00Z");
+    EXPECT_EQ(Codes(Mixed, Sequential, 3, blocks).Code(36), "010");
 }
 
 TEST(SubjectCodes, RandomCodesReachBothEndsOfTheirAlphabet) {
-    const auto code = [](CodeAlphabets alphabet) {
-        Codes list(alphabet, Random, 3, {0, 1});
-        list.desktop.random.Values = {0, 0.5F, 0x1.fffffep-1F};
-        list.Make();
-        return list.results.CodeArr.at(0);
-    };
-    EXPECT_EQ(code(Alpha), "AMZ");
-    EXPECT_EQ(code(Numeric), "049");
-    EXPECT_EQ(code(Mixed), "0IZ");
+    const std::vector<float> draws = {0, 0.5F, 0x1.fffffep-1F};
+    EXPECT_EQ(Codes(Alpha, Random, 3, {0, 1}, draws).Code(1), "AMZ");
+    EXPECT_EQ(Codes(Numeric, Random, 3, {0, 1}, draws).Code(1), "049");
+    EXPECT_EQ(Codes(Mixed, Random, 3, {0, 1}, draws).Code(1), "0IZ");
 }
 
 TEST(SubjectCodes, RandomCodesAreDrawnUntilTheyDiffer) {

@@ -32,14 +32,6 @@ TEST_F(SavePrompt, IsRepeatedUntilTheNameIsAccepted) {
     EXPECT_EQ(desk.desktop.files.Log, Texts{"OpenForOutput htm"});
 }
 
-TEST_F(SavePrompt, ThatFailsIsReportedAndNothingIsDrawn) {
-    desk.dialog.Fails = {"save "};
-    desk.Generate(ToFile);
-    EXPECT_EQ(events.back(), "normal: " + Report("cannot save ", 5, "a fake"));
-    EXPECT_EQ(desk.desktop.files.Log, Texts{});
-    EXPECT_EQ(desk.desktop.random.Consumed, 0U);
-}
-
 TEST_F(SavePrompt, JudgesTheLastThreeCharacters) {
     for (const char* name : {"LIST.HTM", "list.xhtm", "listtxt", "TxT", "/program/Randomization.htm",
                              "/program/../program/randomization.htm"})

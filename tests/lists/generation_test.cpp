@@ -13,6 +13,7 @@ TEST(Generation, ShowsTheSmallestAndTheLargestPValueOfTheTestedBlocks) {
         {{10, 10}, true, "P value of Runs test = 0.0109"}, // each generation starts anew
         {{4}, true, "P value of Runs test = 0.1884"},
         {{4}, false, ""},
+        {{}, true, ""}, // no block was made
     };
     ListDesk desk;
     desk.settings.SigLevel = 0.01F;
@@ -24,14 +25,6 @@ TEST(Generation, ShowsTheSmallestAndTheLargestPValueOfTheTestedBlocks) {
         EXPECT_EQ(desk.desktop.pointer.Calls.front(), 'B');
         EXPECT_EQ(desk.desktop.pointer.Calls.back(), 'N');
     }
-}
-
-TEST(Generation, ShowsNoPValueWhenNoBlockWasMade) {
-    ListDesk desk;
-    desk.settings.PerformRuns = true;
-    desk.Generate(ToFile); // the prompt is cancelled
-    EXPECT_EQ(desk.desktop.messages.Take(), "");
-    EXPECT_EQ(desk.desktop.random.Consumed, 0U);
 }
 
 TEST(Generation, NeedsASampleSize) {

@@ -22,11 +22,6 @@ TEST(CopyTextToClipboard, EndsAtTheCallThatFails) {
         {{"GlobalAlloc"}, {}, noMemory, before, "GlobalAlloc"},
         {{"GlobalLock"}, {}, noMemory, before, "GlobalLock"},
         {{"GlobalUnlock"}, {"Could not unlock memory location. Copy aborted."}, "", before, "CloseClipboard"},
-        {{"GlobalUnlock", "CloseClipboard"},
-         {"Could not unlock memory location. Copy aborted.", noClose},
-         "",
-         before,
-         "CloseClipboard"},
         {{"OpenClipboard"}, {"Could not open the Clipboard. Copy aborted."}, "", before, "OpenClipboard"},
         {{"SetClipboardData"}, {}, "The clipboard did not take the list", "", "CloseClipboard"},
     };

@@ -87,8 +87,6 @@ TEST(TextReport, PlacesCellsAtTheirColumnsOrOnTheNextLine) {
     EXPECT_EQ(list({"ää", "B"}, {2}), "001: \xE4\xE4" + Blanks(13) + "002: B\r\n" + Rule(35));
     EXPECT_EQ(list({n20, n20}, {2}), "001: " + n20 + "\r\n" + Blanks(20) + "002: " + n20 + "\r\n" + Rule(35));
     EXPECT_EQ(list({n20, "B"}, {1}), "001: " + n20 + "\r\n" + Blanks(21) + "\r\n" + Rule(35));
-    EXPECT_EQ(list({"", ""}, {1, 1}),
-              "001: " + Blanks(16) + "\r\n" + Rule(35) + "002: " + Blanks(16) + "\r\n" + Rule(35));
     EXPECT_EQ(ListDesk(9, {"A", "B"}, {1}).ToTheFile("list.txt"),
               "001: A" + Blanks(155) + "\r\n" + Rule(142));
 }

@@ -44,26 +44,10 @@ TEST_F(ShownFileTest, IsShownUpToItsLimits) {
                      "reading a line"));
 }
 
-TEST_F(ShownFileTest, ThatCannotBeReadToItsEndIsShownUpToThere) {
-    desktop.files.Fails = {"Read"};
-    desktop.files.Before = 1;
-    EXPECT_EQ(Shown("a line\ncut o"), "a line\n");
-    EXPECT_EQ(desktop.messages.Take(), Report("cannot Read", 5, "a fake"));
-    EXPECT_EQ(desktop.files.Open, 0);
-}
-
-TEST_F(ShownFileTest, IsDeletedQuietlyWhenItIsTemporary) {
-    Shown("a list");
+TEST_F(ShownFileTest, ThatCannotBeDeletedStaysWithoutAReport) {
     desktop.files.Fails = {"Delete"};
     file.DeleteIfTemporary();
     EXPECT_EQ(desktop.messages.Take(), "");
-    desktop.files.Fails.clear();
-    file.OutputFileName("f", false);
-    file.DeleteIfTemporary();
-    EXPECT_TRUE(desktop.files.Contents.contains("f"));
-    file.OutputFileName("f", true);
-    file.DeleteIfTemporary();
-    EXPECT_FALSE(desktop.files.Contents.contains("f"));
 }
 
 } // namespace
