@@ -78,17 +78,18 @@ TEST(HtmlReport, FollowsTheSettings) {
 }
 
 TEST(TextReport, PlacesCellsAtTheirColumnsOrOnTheNextLine) {
-    const auto list = [](const Texts& names, const std::vector<std::int16_t>& blocks) {
-        return ListDesk(2, names, blocks).ToTheFile("list.txt");
+    const auto list = [](int columns, const Texts& names, std::int16_t size) {
+        return ListDesk(columns, names, {size}).ToTheFile("list.txt");
     };
     const std::string n15(15, 'n'); // with its code 20 characters
     const std::string n20(20, 'n');
-    EXPECT_EQ(list({n15, "B"}, {2}), "001: " + n15 + "002: B\r\n" + Rule(35));
-    EXPECT_EQ(list({"ää", "B"}, {2}), "001: \xE4\xE4" + Blanks(13) + "002: B\r\n" + Rule(35));
-    EXPECT_EQ(list({n20, n20}, {2}), "001: " + n20 + "\r\n" + Blanks(20) + "002: " + n20 + "\r\n" + Rule(35));
-    EXPECT_EQ(list({n20, "B"}, {1}), "001: " + n20 + "\r\n" + Blanks(21) + "\r\n" + Rule(35));
-    EXPECT_EQ(ListDesk(9, {"A", "B"}, {1}).ToTheFile("list.txt"),
-              "001: A" + Blanks(155) + "\r\n" + Rule(142));
+    EXPECT_EQ(list(2, {n15, "B"}, 2), "001: " + n15 + "002: B\r\n" + Rule(35));
+    EXPECT_EQ(list(2, {n20, n20}, 2),
+              "001: " + n20 + "\r\n" + Blanks(20) + "002: " + n20 + "\r\n" + Rule(35));
+    EXPECT_EQ(list(4, {"ää", "B"}, 2),
+              "001: \xE4\xE4" + Blanks(13) + "002: B" + Blanks(35) + "\r\n" + Rule(75));
+    EXPECT_EQ(list(9, {"A", "B"}, 1), "001: A" + Blanks(155) + "\r\n" + Rule(142));
+    EXPECT_EQ(list(10, {n20, "B"}, 1), "001: " + n20 + "\r\n" + Blanks(181) + "\r\n" + Rule(148));
 }
 
 TEST(ClipboardReport, FillsItsColumnsAndRefusesAWiderCell) {
