@@ -114,10 +114,9 @@ TEST(ClipboardReport, FillsItsColumnsAndRefusesAWiderCell) {
 struct Channel {
     const char* name;
     std::function<std::string(ListDesk&)> run;
-    bool html = false;
 };
 const Channel ToTextFile{"text file", [](ListDesk& desk) { return desk.ToTheFile("list.txt"); }};
-const Channel ToWebPage{"web page", [](ListDesk& desk) { return desk.ToTheFile("list.htm"); }, true};
+const Channel ToWebPage{"web page", [](ListDesk& desk) { return desk.ToTheFile("list.htm"); }};
 const Channel ToOutputWindow{"window", [](ListDesk& desk) { return desk.ToTheWindow(); }};
 const Channel ToTheBoard{"clipboard", [](ListDesk& desk) { return desk.ToTheClipboard(); }};
 
@@ -156,13 +155,11 @@ TEST(Reports, KeepWhatTheDiskTookAndReportOnce) {
 }
 
 TEST(Reports, KeepTheBlocksBeforeTheOneThatFails) {
-    for (const Channel& channel : {ToTextFile, ToWebPage, ToOutputWindow, ToTheBoard}) {
+    for (const Channel& channel : {ToTextFile, ToOutputWindow}) {
         SCOPED_TRACE(channel.name);
-        ListDesk desk(3, {"Group 1", "Group 2"}, {6, LargestBlock + 1}, 5);
-        const std::string left = LeftBehind(channel, desk, "Error Number: 20001");
-        if (left != "no file") {
-            EXPECT_TRUE(left.ends_with(channel.html ? "nowrap=1><tr>\r\n" : "=\r\n")) << left;
-        }
+        ListDesk whole(3, {"Group 1", "Group 2"}, {6}, 5);
+        ListDesk broken(3, {"Group 1", "Group 2"}, {6, LargestBlock + 1}, 5);
+        EXPECT_EQ(LeftBehind(channel, broken, "Error Number: 20001"), channel.run(whole));
     }
 }
 
