@@ -60,18 +60,5 @@ TEST(TextFileReader, GivesEveryCompleteLineThenTellsWhyThereIsNoOther) {
     }
 }
 
-TEST(TextFileWriter, DoesNotWriteAgainWhatAFullDiskRefused) {
-    MemoryFiles files;
-    {
-        TextFileWriter writer(files.OpenForOutput("f"), WesternPage(), Unmappable::Fail);
-        writer.Write("abcd");
-        files.Fails = {"Write"};
-        EXPECT_EQ(FailureOf([&] { writer.Close(); }).Description, "cannot Write");
-        files.Fails.clear();
-    }
-    EXPECT_EQ(files.Contents["f"], "ab") << "the half that the disk took";
-    EXPECT_EQ(files.Open, 0);
-}
-
 } // namespace
 } // namespace orvane
