@@ -54,7 +54,7 @@ class PaddedCells : public CellWriter {
 
 void OutputToClipBoard(const ReportContext& context) {
     const Platform& desktop = context.Desktop;
-    WithFailurePath(desktop.Messages, false, [&] {
+    WithFailurePath(desktop.Messages, [&] {
         const auto ruleWidth = static_cast<std::size_t>(GetMaxEq(context.Settings.Columns));
         RequireMappableNames(context);
         const std::size_t columnWidth =

@@ -33,7 +33,7 @@ std::string AskForListFile(CommonDialog& CMDialog, const Platform& desktop) {
 /// The path chosen in an open prompt; empty after a cancel and after a failure, which was then reported.
 std::string GetRandomFileName(CommonDialog& CMDialog, MessageBox& messages) {
     std::string name;
-    WithFailurePath(messages, true, [&] {
+    WithFailurePath(messages, [&] {
         CMDialog.DialogTitle = "Select the random file";
         CMDialog.Filter = ListFilter;
         CMDialog.ShowOpen();
@@ -46,7 +46,7 @@ std::string GetRandomFileName(CommonDialog& CMDialog, MessageBox& messages) {
 
 void OutputToFile(const ReportContext& context, CommonDialog& CMDialog) {
     const Platform& desktop = context.Desktop;
-    WithFailurePath(desktop.Messages, true, [&] {
+    WithFailurePath(desktop.Messages, [&] {
         for (;;) {
             PrepareSavePrompt(CMDialog, desktop.Pointer);
             const std::string name = AskForListFile(CMDialog, desktop);
@@ -63,7 +63,7 @@ void OutputToFile(const ReportContext& context, CommonDialog& CMDialog) {
 
 void DisplayRandomFile(const ReportContext& context, CommonDialog& CMDialog, OutputWindow& window) {
     const Platform& desktop = context.Desktop;
-    WithFailurePath(desktop.Messages, false, [&] {
+    WithFailurePath(desktop.Messages, [&] {
         const std::string name = GetRandomFileName(CMDialog, desktop.Messages);
         if (name.empty())
             return;

@@ -20,7 +20,7 @@ void ShownFile::OutputFileName(const std::string& strOutputFileName, bool tempor
 
 std::string ShownFile::Read() {
     std::string text;
-    WithFailurePath(desktop_.Messages, false, [&] {
+    WithFailurePath(desktop_.Messages, [&] {
         TextFileReader file(*desktop_.FileSystem.OpenForInput(OutputFileName_), desktop_.Page,
                             OutputFileName_, {true, LongestLine, LargestFile});
         for (std::size_t lines = 0; !file.AtEnd(); ++lines) {
@@ -36,7 +36,7 @@ std::string ShownFile::Read() {
 }
 
 void ShownFile::SaveAs() {
-    WithFailurePath(desktop_.Messages, true, [this] {
+    WithFailurePath(desktop_.Messages, [this] {
         for (;;) {
             CMDialog_.Flags = CommonDialog::OverwritePrompt;
             CMDialog_.FileName = "output";
@@ -50,8 +50,7 @@ void ShownFile::SaveAs() {
 }
 
 void ShownFile::SaveToText(const std::string& strFileName) {
-    WithFailurePath(desktop_.Messages, false,
-                    [&] { desktop_.FileSystem.Copy(OutputFileName_, strFileName); });
+    WithFailurePath(desktop_.Messages, [&] { desktop_.FileSystem.Copy(OutputFileName_, strFileName); });
 }
 
 void ShownFile::DeleteIfTemporary() {

@@ -14,7 +14,7 @@ constexpr std::int32_t BlankWidth = 1;
 
 void GenerateText(const ReportContext& context, const std::string& S) {
     const Platform& desktop = context.Desktop;
-    WithFailurePath(desktop.Messages, false, [&] {
+    WithFailurePath(desktop.Messages, [&] {
         const std::int16_t ruleWidth = GetMaxEq(context.Settings.Columns);
         RequireMappableNames(context);
         TextFileWriter file(desktop.FileSystem.OpenForOutput(S), desktop.Page, Unmappable::Fail);

@@ -46,7 +46,7 @@ void WriteWindowList(const ReportContext& context, const std::string& path) {
 
 void OutputToWindow(const ReportContext& context, OutputWindow& window) {
     const std::string path = FreeTemporaryPath(context.Desktop);
-    WithFailurePath(context.Desktop.Messages, false, [&] {
+    WithFailurePath(context.Desktop.Messages, [&] {
         WriteWindowList(context, path);
         window.OutputFileName(path, true);
         window.ShowModal();

@@ -16,15 +16,15 @@ void ReportError(const Failure& failure, MessageBox& messages);
 /// Requires: called inside a catch block.
 Failure CurrentFailure();
 
-/// Runs `body`. If it throws: reports the failure once and returns normally. With `quietCancel` a cancelled
-/// prompt is not reported.
+/// Runs `body`. If it throws: reports the failure once and returns normally. A cancelled prompt is not
+/// reported.
 template <std::invocable Body>
-void WithFailurePath(MessageBox& messages, bool quietCancel, Body&& body) {
+void WithFailurePath(MessageBox& messages, Body&& body) {
     try {
         body();
     } catch (...) {
         const Failure failure = CurrentFailure();
-        if (!quietCancel || failure.Number != failure_number::Cancelled)
+        if (failure.Number != failure_number::Cancelled)
             ReportError(failure, messages);
     }
 }

@@ -56,7 +56,7 @@ std::int32_t Read32(TextFileReader& file) {
 } // namespace
 
 void SettingsFile::SaveSettings(const std::string& FileNameStr, bool Announce) {
-    WithFailurePath(desktop_.Messages, false, [&] {
+    WithFailurePath(desktop_.Messages, [&] {
         Write(FileNameStr, Compose(Unmappable::Fail));
         if (Announce)
             desktop_.Messages.Show("Settings were saved successfully!");
@@ -64,7 +64,7 @@ void SettingsFile::SaveSettings(const std::string& FileNameStr, bool Announce) {
 }
 
 void SettingsFile::ReplaceSettings(const std::string& FileNameStr) {
-    WithFailurePath(desktop_.Messages, false, [&] {
+    WithFailurePath(desktop_.Messages, [&] {
         const std::string bytes = Compose(Unmappable::QuestionMark);
         DeleteIfPossible(FileNameStr);
         Write(FileNameStr, bytes);
@@ -146,7 +146,7 @@ void SettingsFile::DeleteIfPossible(const std::string& FileNameStr) {
 void SettingsFile::SetSettings(const std::string& FileNameStr, bool Announce) {
     if (FileNameStr.empty())
         return;
-    WithFailurePath(desktop_.Messages, false, [&] {
+    WithFailurePath(desktop_.Messages, [&] {
         ReadValues(FileNameStr);
         list_.SigLevel = DefaultSigLevel;
         if (Announce)

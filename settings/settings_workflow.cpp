@@ -41,7 +41,7 @@ std::string SettingsWorkflow::GetSaveAsFile() {
 
 std::string SettingsWorkflow::Ask(const char* title, void (CommonDialog::*show)()) {
     std::string path;
-    WithFailurePath(desktop_.Messages, true, [&] {
+    WithFailurePath(desktop_.Messages, [&] {
         CMDialog_.FileName = OfferedName;
         CMDialog_.DialogTitle = title;
         CMDialog_.Filter = SettingsFilter;
