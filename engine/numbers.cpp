@@ -156,8 +156,6 @@ bool IsAboveSampleSizes(std::string_view text) {
 }
 
 std::string SevenDigits(float value) {
-    if (value == 0)
-        return "0";
     // d.dddddde+xx: the significant digits, and where the decimal point belongs.
     std::array<char, 32> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
