@@ -13,7 +13,7 @@ TEST(FailurePath, ReportsWhateverIsThrownOnceAndGoesOn) {
         std::function<void()> body;
         Texts messages;
     } rows[] = {
-        {"a cancel", [] { throw Failure("Cancel", failure_number::Cancelled, "a prompt"); }, {}},
+        {"a cancel", [] { throw Failure("Cancel", 32755, "a prompt"); }, {}},
         {"a failure without texts", [] { throw Failure("", -7, ""); }, {Report("", -7, "")}},
         {"bad_alloc", [] { throw std::bad_alloc(); }, {Report("Out of memory", 20010, "memory")}},
         {"logic_error", [] { throw std::logic_error("odd"); }, {Report("odd", 20099, "the program")}},
