@@ -25,6 +25,7 @@ TEST(CodePage, ACharacterThatThePageLacksIsReplacedOrNamedInAFailure) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.about);
         EXPECT_EQ(page.Encode(row.text, Unmappable::NumericReference), row.withReferences);
+        EXPECT_NE(page.CharactersNotHeld(row.text).at(0).find(row.named), std::string::npos);
         const Failure failure = FailureOf([&] { (void)page.Encode(row.text, Unmappable::Fail); });
         EXPECT_EQ(failure.Number, failure_number::UnmappableCharacter);
         EXPECT_NE(failure.Description.find(row.named), std::string::npos) << failure.Description;

@@ -13,7 +13,6 @@ const std::string Path = "/program/saved.stg";
 
 /// The main window without its controls: two groups, whose names cannot be changed.
 struct EndOfProgram : testing::Test, MainControls, MSFlexGrid {
-    EndOfProgram() { settings.CodeLength = 3; }
     void SetNogHsb(std::int16_t position) override { settings.NumberOfGroups = position; }
     void SetSampSizeTxt(const std::string& /*text*/) override {}
     void mnuOutput_Click(std::int16_t Index) override { settings.OutputOption = Index; }
@@ -41,7 +40,7 @@ TEST_F(EndOfProgram, ReplacesTheFileOfTheStart) {
     workflow.AtEnd();
     EXPECT_EQ(desktop.files.Log, (Texts{"Delete " + Path, "OpenForOutput " + Path}));
     EXPECT_EQ(desktop.files.Contents[Path],
-              BytesOf({.Groups = {"Drug", "Drug"}, .SampleSize = "0", .CodeAlphaNum = 0}));
+              BytesOf({.Groups = {"Drug", "Drug"}, .SampleSize = "0", .CodeAlphaNum = 0, .CodeLength = 0}));
 }
 
 TEST_F(EndOfProgram, KeepsWhatTheDiskTookAndReportsOnceWhenItIsFull) {
