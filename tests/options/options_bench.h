@@ -40,7 +40,7 @@ struct OptionsBench : OptionsControls {
     /// Judges the options and gives the messages.
     Texts Judge() {
         const bool refused = validation.NotValidInputs();
-        const Texts messages = desktop.messages.TakeAll();
+        Texts messages = desktop.messages.TakeAll();
         EXPECT_EQ(refused, !messages.empty());
         return messages;
     }
