@@ -20,7 +20,7 @@ struct EndOfProgram : testing::Test, MainControls, MSFlexGrid {
     [[nodiscard]] std::int16_t Row() const override { return 1; }
     void SetRow(std::int16_t /*row*/) override {}
     [[nodiscard]] std::int16_t Col() const override { return 1; }
-    void SetCol(std::int16_t /*col*/) override {}
+    void SetCol(std::int16_t col) override { Column = col; }
     [[nodiscard]] std::string Text() const override { return Name; }
     void SetText(const std::string& /*text*/) override {}
     [[nodiscard]] std::string TextMatrix(std::int16_t /*row*/, std::int16_t /*col*/) const override {
@@ -29,6 +29,7 @@ struct EndOfProgram : testing::Test, MainControls, MSFlexGrid {
 
     FakeDesktop desktop;
     ListSettings settings;
+    std::int16_t Column = 0;   ///< of the current cell
     std::string Name = "Drug"; ///< of each group
     ScriptedDialog dialog;
     SettingsFile file{settings, *this, *this, desktop.platform};
@@ -39,6 +40,7 @@ TEST_F(EndOfProgram, ReplacesTheFileOfTheStart) {
     desktop.files.Contents[Path] = "older";
     workflow.AtEnd();
     EXPECT_EQ(desktop.files.Log, (Texts{"Delete " + Path, "OpenForOutput " + Path}));
+    EXPECT_EQ(Column, 1) << "that of the names";
     EXPECT_EQ(desktop.files.Contents[Path],
               BytesOf({.Groups = {"Drug", "Drug"}, .SampleSize = "0", .CodeAlphaNum = 0, .CodeLength = 0}));
 }
