@@ -51,7 +51,8 @@ void AboutBox::Form_Load() {
 void ShowAboutForm(Platform& desktop, QWidget& owner) {
     AboutBox window(desktop, owner);
     window.Form_Load();
-    window.ShowModalAt(ScreenPlace);
+    window.move(ScreenPlace);
+    window.ShowModalHere();
 }
 
 } // namespace orvane

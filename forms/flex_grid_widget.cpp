@@ -38,7 +38,7 @@ class CellPainter : public QStyledItemDelegate {
         const QRect inside = Inside(option.rect);
         painter->save();
         painter->fillRect(option.rect, background);
-        painter->setPen(QColor(192, 192, 192));
+        painter->setPen(Qt::lightGray);
         painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
         painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
         painter->setPen(foreground);
@@ -73,7 +73,7 @@ class CellPainter : public QStyledItemDelegate {
     };
     [[nodiscard]] CellColours Colours(const QPalette& palette, const QModelIndex& index) const {
         if (index.row() == grid_.Row() && index.column() == grid_.Col())
-            return {QColor(255, 0, 0), palette.color(QPalette::Active, QPalette::HighlightedText)};
+            return {Qt::red, palette.color(QPalette::Active, QPalette::HighlightedText)};
         if (index.column() == FixedColumn)
             return {palette.color(QPalette::Active, QPalette::Button),
                     palette.color(QPalette::Active, QPalette::ButtonText)};
@@ -161,7 +161,7 @@ void FlexGridWidget::ShowCurrentCell() {
 }
 
 void FlexGridWidget::RequireCell(std::int16_t row, std::int16_t col) const {
-    if (row < 0 || row >= rowCount() || col < 0 || col >= columnCount())
+    if (!model()->hasIndex(row, col))
         throw Failure("The grid has no cell in row " + std::to_string(row) + ", column " +
                           std::to_string(col),
                       failure_number::OutOfRange, "FlexGridWidget");

@@ -57,7 +57,6 @@ void GroupNameEditor::TempTxt_Change() {
         return MoveTypedTextToName();
     const bool hadTarget = EditRow_ != 0;
     GroupNameGrid_.SetRow(EditRow_);
-    GroupNameGrid_.SetCol(EditCol_);
     GroupNameGrid_.SetText(TempTxt_.Text());
     // The editor now shows the name of group 1. It is selected so that the next key replaces it.
     if (!hadTarget && TempTxt_.hasFocus())

@@ -39,8 +39,8 @@ class GroupNameEditor {
     const ListSettings& settings_;
     MSFlexGrid& GroupNameGrid_;
     LineBox& TempTxt_;
-    std::int16_t EditRow_ = 0; ///< 0: the editor belongs to no group
-    std::int16_t EditCol_ = 0;
+    std::int16_t EditRow_{}; ///< 0: the editor belongs to no group
+    std::int16_t EditCol_{};
 };
 
 } // namespace orvane

@@ -31,8 +31,8 @@ class LineBox : public QLineEdit {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    bool settingText_ = false;      ///< the program sets the text: nothing is cut
-    bool pressBringsFocus_ = false; ///< the button that gave the focus is still down
+    bool settingText_ = false; ///< the program sets the text: nothing is cut
+    bool pressBringsFocus_{};  ///< the button that gave the focus is still down
 };
 
 } // namespace orvane

@@ -29,7 +29,7 @@ namespace {
 constexpr int ClientWidth = 364;
 constexpr int ClientHeight = 185;
 
-// Menu items: the values of `Index` in the handlers of the menus.
+// The values of `Index` in the handlers of the menus: the place of the item in its menu, lines included.
 constexpr std::int16_t LoadSettingsItem = 0;
 constexpr std::int16_t SaveSettingsItem = 1;
 constexpr std::int16_t ExitItem = 3;
@@ -71,6 +71,8 @@ class MainForm : public QMainWindow, private MainControls {
     void LayOut();
     void ConnectControls();
     void ConnectMenus();
+    template <class Handler>
+    void OnItems(const QMenu& menu, Handler handler);
     void CheckOutputItem(std::int32_t Index);
     void RefuseSampleSize();
     void ShowOptions();
@@ -130,23 +132,24 @@ void MainForm::ConnectControls() {
 }
 
 void MainForm::ConnectMenus() {
-    const auto chosen = &QAction::triggered;
-    guard_.OnCommand(ui_.mnuFile_0, chosen, [this] { mnuFile_Click(LoadSettingsItem); });
-    guard_.OnCommand(ui_.mnuFile_1, chosen, [this] { mnuFile_Click(SaveSettingsItem); });
-    guard_.OnCommand(ui_.mnuFile_3, chosen, [this] { mnuFile_Click(ExitItem); });
-    guard_.OnCommand(ui_.mnuView_0, chosen, [this] { mnuView_Click(RandomFileItem); });
-    guard_.OnCommand(ui_.mnuView_1, chosen, [this] { mnuView_Click(OptionItem); });
+    OnItems(*ui_.mnu_0, [this](std::int16_t Index) { mnuFile_Click(Index); });
+    OnItems(*ui_.mnu_1, [this](std::int16_t Index) { mnuView_Click(Index); });
     guard_.OnCommand(ui_.mnuSequence_0, &QMenu::aboutToShow,
                      [this] { generation_.mnuSequence_Click(OutputItem); });
-    guard_.OnCommand(ui_.mnuSequence_2, chosen, [this] { generation_.mnuSequence_Click(GenerateItem); });
-    guard_.OnCommand(ui_.mnuOutput_0, chosen, [this] { mnuOutput_Click(ToFile); });
-    guard_.OnCommand(ui_.mnuOutput_1, chosen, [this] { mnuOutput_Click(ToWindow); });
-    guard_.OnCommand(ui_.mnuOutput_2, chosen, [this] { mnuOutput_Click(ToClipboard); });
+    guard_.OnCommand(ui_.mnuSequence_2, &QAction::triggered,
+                     [this] { generation_.mnuSequence_Click(GenerateItem); });
+    OnItems(*ui_.mnuSequence_0, [this](std::int16_t Index) { mnuOutput_Click(Index); });
     // The toolkit has changed the mark of the item, even if its command was not carried out.
-    for (const QAction* item : ui_.mnuSequence_0->actions())
-        guard_.On(item, chosen, [this] { CheckOutputItem(settings_.OutputOption); });
-    guard_.OnCommand(ui_.mnuHelp_0, chosen, [this] { mnuHelp_Click(ContentItem); });
-    guard_.OnCommand(ui_.mnuHelp_2, chosen, [this] { mnuHelp_Click(AboutItem); });
+    guard_.On(ui_.mnuSequence_0, &QMenu::triggered, [this] { CheckOutputItem(settings_.OutputOption); });
+    OnItems(*ui_.mnu_3, [this](std::int16_t Index) { mnuHelp_Click(Index); });
+}
+
+template <class Handler>
+void MainForm::OnItems(const QMenu& menu, Handler handler) {
+    for (std::int16_t Index = 0; const QAction* item : menu.actions()) {
+        guard_.OnCommand(item, &QAction::triggered, [handler, Index] { handler(Index); });
+        ++Index;
+    }
 }
 
 void MainForm::Form_Load() {

@@ -31,12 +31,10 @@ ModalWindow::ModalWindow(Qt::WindowFlags flags, Platform& desktop, QWidget* owne
 void ModalWindow::ShowModal() {
     const QWidget* const front = QApplication::activeWindow();
     CentreOnScreen(*this, front != nullptr ? *front : *this);
-    exec();
-    PaintWhatWasCovered();
+    ShowModalHere();
 }
 
-void ModalWindow::ShowModalAt(QPoint place) {
-    move(place);
+void ModalWindow::ShowModalHere() {
     exec();
     PaintWhatWasCovered();
 }

@@ -13,8 +13,8 @@ class ModalWindow : public QDialog {
   public:
     /// Shows the window in the middle of the screen and returns when it has closed.
     void ShowModal();
-    /// The same with the upper left corner of the frame at `place`.
-    void ShowModalAt(QPoint place);
+    /// The same without moving the window.
+    void ShowModalHere();
 
   protected:
     /// `flags` determine the buttons of the frame. Sets the text size of the forms, which controls that are

@@ -95,7 +95,7 @@ class OptionsDialog : public ModalWindow, private OptionsControls {
     OptionGroup BlkOpt_;
     OptionGroup AlphaNumOpt_;
     OptionGroup SeqRandOpt_;
-    bool Loading_ = false; ///< Form_Load is setting the controls
+    bool Loading_{}; ///< Form_Load is setting the controls
 };
 
 OptionsDialog::OptionsDialog(ListSettings& settings, ListResults& results, const GroupNameEditor& groupNames,
@@ -186,7 +186,7 @@ bool OptionsDialog::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress)
         return ModalWindow::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
-    bool taken = false;
+    bool taken{};
     guard_.Handle(
         [&] { taken = Form_KeyDown(key->key(), key->modifiers()) || BlkOptTakesKey(*watched, *event); });
     return taken;

@@ -3,8 +3,8 @@
 #include "engine/numbers.h"
 
 #include <array>
-#include <charconv>
-#include <limits>
+#include <iomanip>
+#include <sstream>
 
 namespace orvane {
 
@@ -14,19 +14,17 @@ constexpr std::size_t BufferSize = 1024;
 
 /// The hexadecimal digits of each byte from the last to the first, none with a leading zero.
 std::string HexDigitsBackwards(const std::string& bytes) {
-    std::string text;
-    for (const char byte : std::string(bytes.rbegin(), bytes.rend())) {
-        std::array<char, 2> digits{};
-        const int code = static_cast<unsigned char>(byte);
-        text.append(digits.data(), std::to_chars(digits.begin(), digits.end(), code, 16).ptr);
-    }
-    return text;
+    std::ostringstream text;
+    text << std::hex;
+    for (const char byte : std::string(bytes.rbegin(), bytes.rend()))
+        text << static_cast<int>(static_cast<unsigned char>(byte));
+    return text.str();
 }
 
 std::string DecimalDigits(double number) {
-    std::array<char, std::numeric_limits<double>::max_exponent10 + 2> digits{};
-    return {digits.data(),
-            std::to_chars(digits.begin(), digits.end(), number, std::chars_format::fixed, 0).ptr};
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(0) << number;
+    return text.str();
 }
 
 /// The full path of the tool, empty when none is known.
@@ -57,10 +55,10 @@ void StartSysInfo(Platform& desktop) {
 
 bool GetKeyValue(Registry& keys, std::uint32_t KeyRoot, const std::string& KeyName,
                  const std::string& SubKeyRef, std::string& KeyVal) {
-    RegistryKey key = 0;
+    RegistryKey key{};
     std::array<char, BufferSize> buffer{};
     std::uint32_t size = BufferSize;
-    std::uint32_t type = 0;
+    std::uint32_t type{};
     bool found = false;
     if (keys.RegOpenKeyExA(KeyRoot, KeyName, 0, REGISTRY_ALL_ACCESS, key) == 0) {
         found =
