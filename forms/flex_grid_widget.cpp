@@ -187,7 +187,7 @@ void FlexGridWidget::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Home:
         return PickRow(0);
     case Qt::Key_End:
-        return PickRow(rowCount() - 1);
+        return PickRow(rowCount());
     default:
         event->ignore();
     }

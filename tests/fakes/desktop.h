@@ -115,7 +115,7 @@ struct MemoryClipboard : Clipboard, Faults {
     std::int32_t CloseClipboard() override { return Works("CloseClipboard") ? 1 : 0; }
 };
 
-/// Keys with values by "path|name".
+/// Values by "path|name"; every key can be opened.
 struct MemoryRegistry : Registry {
     struct Value {
         std::uint32_t type = 0;
@@ -125,10 +125,9 @@ struct MemoryRegistry : Registry {
     Texts Opened; ///< the paths of the keys, in order
     int Open = 0;
 
-    std::int32_t RegOpenKeyExA(std::uint32_t root, const std::string& path, std::uint32_t /*options*/,
+    std::int32_t RegOpenKeyExA(std::uint32_t root, const std::string& path, std::uint32_t options,
                                std::uint32_t /*access*/, RegistryKey& key) override {
-        const auto first = Values.lower_bound(path + "|");
-        if (root != HKEY_LOCAL_MACHINE_ROOT || first == Values.end() || !first->first.starts_with(path + "|"))
+        if (root != HKEY_LOCAL_MACHINE_ROOT || options != 0)
             return 2;
         Opened.push_back(path);
         key = Opened.size();

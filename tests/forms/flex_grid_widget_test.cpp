@@ -39,15 +39,38 @@ TEST_F(FlexGrid, ShowsATextThatIsTooLongForItsCellInATip) {
     EXPECT_EQ(ToolTipOver(std::string(1500, '<')), std::string(1000, '<'));
 }
 
+TEST_F(FlexGrid, MarksItsCurrentCellAlone) {
+    grid.SetRow(1);
+    const QImage picture = grid.viewport()->grab().toImage();
+    const auto background = [&](int row, int column) {
+        return picture.pixel(grid.visualRect(grid.model()->index(row, column)).topLeft());
+    };
+    EXPECT_NE(background(1, 1), background(2, 1));
+    EXPECT_NE(background(1, 1), background(1, 0));
+    EXPECT_EQ(background(1, 0), background(2, 0));
+    EXPECT_EQ(background(2, 1), background(3, 1));
+    EXPECT_NE(background(2, 0), background(2, 1)) << "the column of the numbers";
+}
+
+TEST_F(FlexGrid, RefusesCellsThatItDoesNotHave) {
+    const auto refuses = [](auto&& step) { return FailureOf(step).Number == failure_number::OutOfRange; };
+    EXPECT_TRUE(refuses([this] { grid.SetRow(4); }));
+    EXPECT_TRUE(refuses([this] { grid.SetCol(2); }));
+    EXPECT_TRUE(refuses([this] { static_cast<void>(grid.TextMatrix(-1, 1)); }));
+    EXPECT_TRUE(refuses([this] { grid.SetRows(0); }));
+    EXPECT_TRUE(refuses([] { FlexGridWidget().SetText("no rows yet"); }));
+}
+
 TEST_F(FlexGrid, IsNotClickedByLessThanAPressAndAReleaseOfTheLeftButtonInside) {
     int clicks = 0;
     QObject::connect(&grid, &FlexGridWidget::Click, [&] { ++clicks; });
     const QPoint inside(100, 50);
-    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, inside);
-    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, QPoint(-9, -9));
-    EXPECT_EQ(clicks, 0) << "released outside";
     QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, inside);
     EXPECT_EQ(clicks, 0) << "pressed outside";
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, {}, inside);
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, QPoint(-9, -9));
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, {}, inside);
+    EXPECT_EQ(clicks, 0) << "released outside";
     QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, inside);
     EXPECT_EQ(clicks, 0) << "another button";
 }

@@ -84,6 +84,9 @@ TEST_F(GroupNames, AreReachedWithTheKeysOfTheGridWhichKeepsTheFocus) {
         Qt::Key key;
         int row;
     };
+    OpenWithGroups({"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15", "16"});
+    Grid().setFocus();
+    const int page = Grid().viewport()->height() / Grid().rowHeight(1);
     const Row rows[] = {{"Home", Qt::Key_Home, 1},
                         {"Up on the first row", Qt::Key_Up, 1},
                         {"Down", Qt::Key_Down, 2},
@@ -91,14 +94,15 @@ TEST_F(GroupNames, AreReachedWithTheKeysOfTheGridWhichKeepsTheFocus) {
                         {"End", Qt::Key_End, 16},
                         {"Down on the last row", Qt::Key_Down, 16},
                         {"Page Down on the last row", Qt::Key_PageDown, 16},
+                        {"Page Up", Qt::Key_PageUp, 16 - page},
+                        {"Page Down", Qt::Key_PageDown, 16},
                         {"Up", Qt::Key_Up, 15},
                         {"a letter", Qt::Key_A, 15}};
-    OpenWithGroups({"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15", "16"});
-    Grid().setFocus();
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
         Press(row.key);
         EXPECT_EQ(Grid().Row(), row.row);
+        EXPECT_EQ(Grid().currentRow(), row.row) << "for assistive programs";
         EXPECT_EQ(TempTxt().Text(), std::to_string(row.row)) << "the name in the editor";
         EXPECT_EQ(Focused(*form), "GroupNameGrid");
         EXPECT_TRUE(Grid().viewport()->rect().contains(Cell(row.row, 1).center())) << "not in sight";

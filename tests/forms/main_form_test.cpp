@@ -29,8 +29,7 @@ struct MainWindow : MainFormTest {
 
 TEST_F(MainWindow, ClipsNoTextAndNamesItsControls) {
     Open(ToClipboardSettings);
-    ExpectNothingClipped(*form);
-    ExpectNamesForAssistivePrograms(*form);
+    ExpectNothingClippedOrUnnamed(*form);
     EXPECT_EQ(TabStops(*form),
               (Texts{"nogHsb", "SampSizeTxt", "GroupNameGrid", "TempTxt", "SaveExitChk", "cmdGenerate"}));
 }
@@ -95,15 +94,25 @@ TEST_F(MainWindow, ChoosesTheItemOfAnOpenMenuAtEnterAndMarksIt) {
     QTest::keyClick(&channels, Qt::Key_Return);
     EXPECT_EQ(CheckedChannels(), std::vector{1});
     EXPECT_EQ(Message(), "") << "Enter reached \"Generate Random List\" too";
+    EXPECT_TRUE(desktop.pointer.Calls.ends_with("BN")) << "busy while the menu opens";
     Choose("mnuOutput_1");
     EXPECT_EQ(CheckedChannels(), std::vector{1}) << "the toolkit takes the mark away";
 }
 
-TEST_F(MainWindow, ShowsTheOptionsWithoutAGeneration) {
+TEST_F(MainWindow, CarriesOutTheItemsOfItsMenus) {
     Open(ToClipboardSettings);
-    WithOptions([this] { Choose("mnuView_1"); }, [](QDialog& window) { Click(window, "cmdOK"); });
+    WhileOpen([this] { Choose("mnuView_1"); }, [](QDialog& window) { Click(window, "cmdOK"); });
     EXPECT_FALSE(desktop.pointer.Busy);
-    EXPECT_EQ(desktop.clipboard.Content, "earlier content");
+    EXPECT_EQ(desktop.clipboard.Content, "earlier content") << "no list from the options alone";
+    WhileOpen([this] { Choose("mnuHelp_2"); }, [](QDialog& about) { about.close(); });
+    desktop.files.Contents["/program/randomization.htm"] = "";
+    Choose("mnuHelp_0");
+    EXPECT_EQ(desktop.shell.Started, Texts{"viewer /program/randomization.htm"});
+    EXPECT_EQ(desktop.shell.LastOwner, static_cast<std::intptr_t>(form->winId()));
+    Choose("mnuView_0");
+    EXPECT_EQ(dialog.Shown.size(), 1U) << "the prompt for a saved list";
+    Choose("mnuFile_3");
+    EXPECT_FALSE(form->isVisible());
 }
 
 TEST_F(MainWindow, IgnoresCommandsBehindAMessage) {
@@ -122,14 +131,29 @@ TEST_F(MainWindow, IgnoresCommandsBehindAMessage) {
 }
 
 TEST_F(MainWindow, ClosesAndSavesWhenTheReportOfAFailureWasAnswered) {
-    Open(ToClipboardSettings);
-    FillSampleSize("25");
-    desktop.messages.WhileShown = [this] { EXPECT_FALSE(form->close()); };
-    EXPECT_EQ(ChooseFile("mnuFile_0", "/missing.stg"), ErrorReport);
+    SettingsText settings = ToClipboardSettings;
+    settings.CodeSeqRandom = 1;
+    Open(settings);
+    settings.SampleSize = "25";
+    FillSampleSize(settings.SampleSize);
+    desktop.random.Fails = {"UniformReseed"};
+    desktop.messages.WhileShown = [this] {
+        EXPECT_FALSE(desktop.pointer.Busy);
+        EXPECT_FALSE(form->close());
+    };
+    WhileOpen([this] { TriggerGenerate(); }, [](QDialog& window) { Click(window, "cmdOK"); });
+    EXPECT_EQ(Message(), ErrorReport);
     EXPECT_FALSE(form->isVisible());
-    SettingsText expected = ToClipboardSettings;
-    expected.SampleSize = "25";
-    EXPECT_EQ(desktop.files.Contents[SavedPath], BytesOf(expected));
+    EXPECT_EQ(desktop.files.Contents[SavedPath], BytesOf(settings));
+}
+
+TEST_F(MainWindow, ClosesAfterOneReportWhenTheSettingsCannotBeSaved) {
+    Open(ToClipboardSettings);
+    desktop.files.Fails = {"OpenForOutput"};
+    desktop.messages.WhileShown = [this] { form->close(); };
+    form->close();
+    EXPECT_EQ(Message(), ErrorReport);
+    EXPECT_FALSE(form->isVisible());
 }
 
 TEST_F(MainWindow, LeavesTheSettingsOfTheLastRunAloneWhileItsBoxIsNotChecked) {

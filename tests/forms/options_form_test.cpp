@@ -79,20 +79,6 @@ struct Options : WindowTest {
         Click(window, "chkPerformRuns");
         Fill(window, "txtLevel", "0.25");
     }
-    /// The options after ChangeAll. OK alone takes the border and the cell spacing.
-    static ListSettings AllChanged() {
-        ListSettings changed;
-        changed.prBlockOption = RandomSizesOf;
-        changed.prEqBlockSize = "1 x";
-        changed.prUnEqBlockSize = "4,6";
-        changed.CodeAlphaNum = Numeric;
-        changed.CodeSeqRandom = Random;
-        changed.CodeLength = 4;
-        changed.Columns = 5;
-        changed.PerformRuns = true;
-        changed.SigLevel = 0.25F;
-        return changed;
-    }
 
     LineBox TempTxt;
     FlexGridWidget grid;
@@ -108,8 +94,23 @@ TEST_F(Options, OpenOnTheFirstTabUnderTheNormalPointerWithNothingClipped) {
         EXPECT_FALSE(desktop.pointer.Busy);
         EXPECT_EQ(SelectedTab(window), BlocksTab);
         EXPECT_EQ(Focused(window), "tbsOptions");
-        ExpectNothingClipped(window);
-        ExpectNamesForAssistivePrograms(window);
+        ExpectNothingClippedOrUnnamed(window);
+    });
+}
+
+TEST_F(Options, StopTheTabKeyAtTheControlsOfTheSelectedTab) {
+    const Texts stops[] = {{"BlkOpt_1", "EqBlockSizeTxt"},
+                           {"LenHsb", "SeqRandOpt_0", "AlphaNumOpt_0"},
+                           {"ColHsb", "chkTableBorder", "hsbCellSp"},
+                           {"txtLevel", "chkPerformRuns"}};
+    settings.prBlockOption = EqualSize;
+    Open([&](QDialog& window) {
+        for (const int tab : {BlocksTab, CodeTab, FormatTab, StatisticsTab}) {
+            SelectTab(window, tab);
+            Texts expected = {"tbsOptions", "cmdOK", "cmdCancel", "cmdApply"};
+            expected.insert(expected.end(), stops[tab].begin(), stops[tab].end());
+            EXPECT_EQ(TabStops(window), expected);
+        }
     });
 }
 
@@ -159,13 +160,22 @@ TEST_F(Options, GoBackAtCancelEscapeAndTheCloseOfTheFrame) {
 }
 
 TEST_F(Options, AreTakenByOKUnderTheBusyPointer) {
-    Open([this](QDialog& window) {
+    ListSettings expected;
+    expected.prBlockOption = RandomSizesOf;
+    expected.prEqBlockSize = "1 x";
+    expected.prUnEqBlockSize = "4,6";
+    expected.CodeAlphaNum = Numeric;
+    expected.CodeSeqRandom = Random;
+    expected.CodeLength = 4;
+    expected.Columns = 5;
+    expected.PerformRuns = true;
+    expected.SigLevel = 0.25F;
+    Open([&](QDialog& window) {
         ChangeAll(window);
-        ExpectOptions(settings, AllChanged());
+        ExpectOptions(settings, expected);
         Press(Qt::Key_Return);
     });
-    ListSettings expected = AllChanged();
-    expected.TableBorder = true;
+    expected.TableBorder = true; // these two are taken by OK alone
     expected.CellSpacing = 2;
     ExpectOptions(settings, expected);
     EXPECT_EQ(settings.SelectedCmd, ClosedByOK);
@@ -220,6 +230,8 @@ TEST_F(Options, StepToTheNextTabAtCtrlTabFromEveryControl) {
             tab = tab == StatisticsTab ? BlocksTab : tab + 1;
             EXPECT_EQ(SelectedTab(window), tab);
         }
+        QTest::keyClick(&window, Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(SelectedTab(window), tab + 1) << "without a control that has the focus";
     });
 }
 

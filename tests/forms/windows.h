@@ -75,8 +75,9 @@ inline Texts TabStops(QWidget& window) {
     return stops;
 }
 
-/// Every label and button has room for its text.
-inline void ExpectNothingClipped(const QWidget& window) {
+/// Every label and button has room for its text, and every control that takes the focus has a name for
+/// assistive programs.
+inline void ExpectNothingClippedOrUnnamed(const QWidget& window) {
     for (const QLabel* label : window.findChildren<QLabel*>()) {
         const std::string name = label->objectName().toStdString();
         if (label->wordWrap())
@@ -87,9 +88,6 @@ inline void ExpectNothingClipped(const QWidget& window) {
     for (const QAbstractButton* button : window.findChildren<QAbstractButton*>())
         EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()), button->width())
             << button->objectName().toStdString();
-}
-/// Every control that takes the focus has a name for assistive programs.
-inline void ExpectNamesForAssistivePrograms(const QWidget& window) {
     for (QWidget* control : window.findChildren<QWidget*>()) {
         const std::string name = control->objectName().toStdString();
         const bool ownedByToolkit = name.empty() || name.starts_with("qt_");
