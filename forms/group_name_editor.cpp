@@ -17,7 +17,6 @@ std::vector<std::string> GroupNameEditor::Names() const {
 }
 
 void GroupNameEditor::NumberGroups(std::int16_t groups) {
-    GroupNameGrid_.SetRow(groups);
     GroupNameGrid_.SetCol(NumberColumn);
     for (std::int16_t g = groups; g >= 1; --g) {
         GroupNameGrid_.SetRow(g);
