@@ -15,8 +15,6 @@ struct SetVariable {
             Before = before;
         ::setenv(Name.c_str(), value.c_str(), 1);
     }
-    SetVariable(const SetVariable&) = delete;
-    SetVariable& operator=(const SetVariable&) = delete;
     ~SetVariable() {
         if (Before)
             ::setenv(Name.c_str(), Before->c_str(), 1);

@@ -12,28 +12,22 @@ struct AboutBox : WindowTest {
     QWidget owner;
 };
 
-TEST_F(AboutBox, ClipsNoTextAndNamesItsControls) {
-    Open([](QDialog& window) {
-        ExpectNothingClippedOrUnnamed(window);
-        EXPECT_EQ(TabStops(window), (Texts{"cmdOK", "cmdSysInfo"}));
-        EXPECT_EQ(Find<QLabel>(window, "picIcon").pixmap().size(), QSize(32, 32));
-        window.close();
-    });
-}
-
-TEST_F(AboutBox, ClosesAtOKAndEscape) {
-    Open([](QDialog&) { Press(Qt::Key_Return); });
-    Open([](QDialog&) { Press(Qt::Key_Escape); });
-}
-
-TEST_F(AboutBox, StartsTheSystemInformationByEnter) {
+TEST_F(AboutBox, StartsTheSystemInformationByEnterAndClosesAtEscape) {
     Open([this](QDialog& window) {
+        ExpectNothingClippedOrUnnamed(window);
+        EXPECT_EQ(window.windowTitle(), "About Orvane Software");
+        EXPECT_EQ(Find<QLabel>(window, "picIcon").pixmap().size(), QSize(32, 32));
+        EXPECT_EQ(TabStops(window), (Texts{"cmdOK", "cmdSysInfo"}));
         Press(Qt::Key_Tab);
         Press(Qt::Key_Return);
         EXPECT_EQ(Message(), "System Information Is Unavailable At This Time");
         EXPECT_TRUE(window.isVisible());
-        window.close();
+        Press(Qt::Key_Escape);
     });
+}
+
+TEST_F(AboutBox, ClosesAtOK) {
+    Open([](QDialog&) { Press(Qt::Key_Return); });
 }
 
 } // namespace

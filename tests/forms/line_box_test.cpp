@@ -62,22 +62,18 @@ TEST_F(LineBoxTest, KeepsTheWholeTextSelectedUnderThePressThatBringsTheFocus) {
 }
 
 TEST_F(LineBoxTest, SelectsItsTextWithTheFocusUnlessItsWindowComesBack) {
-    struct Row {
-        const char* what;
-        Qt::FocusReason reason;
-        bool selects;
-    };
-    const Row rows[] = {{"the Tab key", Qt::BacktabFocusReason, true},
-                        {"the program", Qt::OtherFocusReason, true},
-                        {"the end of a context menu", Qt::PopupFocusReason, false},
-                        {"the return of the window", Qt::ActiveWindowFocusReason, false}};
-    box.SetText("text");
-    for (const Row& row : rows) {
+    const auto selectsAt = [this](Qt::FocusReason reason) {
         box.deselect();
-        QFocusEvent event(QEvent::FocusIn, row.reason);
+        QFocusEvent event(QEvent::FocusIn, reason);
         QApplication::sendEvent(&box, &event);
-        EXPECT_EQ(box.hasSelectedText(), row.selects) << row.what;
-    }
+        return box.hasSelectedText();
+    };
+    box.SetText("text");
+    EXPECT_TRUE(selectsAt(Qt::BacktabFocusReason));
+    EXPECT_TRUE(selectsAt(Qt::OtherFocusReason));
+    EXPECT_FALSE(selectsAt(Qt::PopupFocusReason)) << "the end of a context menu";
+    EXPECT_FALSE(selectsAt(Qt::MenuBarFocusReason));
+    EXPECT_FALSE(selectsAt(Qt::ActiveWindowFocusReason));
 }
 
 TEST_F(LineBoxTest, TakeFocusBehindAnotherWindowCountsWhenTheWindowComesBack) {

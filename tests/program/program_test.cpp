@@ -36,32 +36,6 @@ class ProgramTest : public testing::Test {
     User user{desktop, ProgramFolder};
 };
 
-/// The desktop that the program believes to be on.
-class EnterTest : public ProgramTest, public testing::WithParamInterface<const char*> {};
-
-TEST_P(EnterTest, TakesTheOptionsFromATextBox) {
-    user.KeepSettings({.SampleSize = "12", .BlockOption = 1, .EqBlockSize = "6"});
-    user.StartProgram({{"XDG_CURRENT_DESKTOP", GetParam()}});
-    user.FocusOn(MainTitle, "Save settings on exit");
-    user.OpenOptions();
-    user.Fill(OptionsTitle, "Size of Equal Blocks", "4");
-    desktop.Press({"Return"});
-    const fs::path list = desktop.Folder() / GetParam() / "first list.txt";
-    fs::create_directories(list.parent_path());
-    user.Answer(desktop.Await(SaveListTitle), list.string());
-    user.AwaitViewer("reader", list);
-    const std::string text = ReadFile(list);
-    const int subjects = 4 * (12 / 4 + 1); // there is always one block more than the quotient
-    EXPECT_EQ(std::ranges::count(text, ':'), subjects) << text;
-    user.ExpectQuiet();
-    EXPECT_TRUE(user.Find(MainTitle, "check box", "Save settings on exit").Checked)
-        << "Enter reached the box";
-    EXPECT_EQ(user.Exit(), 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(Desktops, EnterTest, testing::Values("GNOME", "KDE"),
-                         [](const auto& row) { return std::string(row.param); });
-
 TEST_F(ProgramTest, GeneratesOnceAtADoubleClick) {
     user.KeepSettings({.SampleSize = "8"});
     user.StartProgram();

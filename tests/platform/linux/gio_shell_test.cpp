@@ -58,11 +58,6 @@ TEST_F(GioShellTest, AnEntryThatTheSystemCannotStartIsNotStarted) {
         EXPECT_LE(Open(line), 32) << line;
 }
 
-TEST_F(GioShellTest, AFileThatDoesNotExistHasNoProgram) {
-    std::string program;
-    EXPECT_LE(shell.FindExecutableA(folder.Path("missing.htm"), program), 32);
-}
-
 TEST_F(GioShellTest, AProgramAloneIsStartedOrIsAFailureThatNamesIt) {
     shell.StartProgram(viewer);
     EXPECT_EQ(Arguments(), "0\n");
