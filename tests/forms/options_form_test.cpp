@@ -2,9 +2,7 @@
 
 #include "windows.h"
 
-#include <QAbstractButton>
-#include <QStackedWidget>
-#include <QTabBar>
+#include <QtWidgets>
 
 #include <cmath>
 
@@ -34,11 +32,7 @@ struct Options : WindowTest {
         settings.CodeLength = 3;
         settings.SigLevel = 0.05F;
         grid.setColumnCount(2);
-        grid.SetRows(3);
-        grid.SetRow(1);
-        grid.SetText("Group 1");
-        grid.SetRow(2);
-        grid.SetText("Group 2");
+        groupNames.SetGroups();
     }
     /// Runs the script in the window, which it may leave open for Cancel.
     void Open(const std::function<void(QDialog&)>& script) {
@@ -88,23 +82,17 @@ struct Options : WindowTest {
     OptionsForm form{settings, results, groupNames, desktop.platform};
 };
 
-TEST_F(Options, OpenOnTheFirstTabUnderTheNormalPointerWithNothingClipped) {
-    desktop.pointer.ShowBusy();
-    Open([this](QDialog& window) {
-        EXPECT_FALSE(desktop.pointer.Busy);
-        EXPECT_EQ(SelectedTab(window), BlocksTab);
-        EXPECT_EQ(Focused(window), "tbsOptions");
-        ExpectNothingClippedOrUnnamed(window);
-    });
-}
-
-TEST_F(Options, StopTheTabKeyAtTheControlsOfTheSelectedTab) {
+TEST_F(Options, OpenOnTheFirstTabAndStopTheTabKeyAtTheControlsOfEachTab) {
     const Texts stops[] = {{"BlkOpt_1", "EqBlockSizeTxt"},
                            {"LenHsb", "SeqRandOpt_0", "AlphaNumOpt_0"},
                            {"ColHsb", "chkTableBorder", "hsbCellSp"},
                            {"txtLevel", "chkPerformRuns"}};
     settings.prBlockOption = EqualSize;
+    desktop.pointer.ShowBusy();
     Open([&](QDialog& window) {
+        EXPECT_FALSE(desktop.pointer.Busy);
+        EXPECT_EQ(SelectedTab(window), BlocksTab);
+        ExpectNothingClippedOrUnnamed(window);
         for (const int tab : {BlocksTab, CodeTab, FormatTab, StatisticsTab}) {
             SelectTab(window, tab);
             Texts expected = {"tbsOptions", "cmdOK", "cmdCancel", "cmdApply"};
@@ -118,17 +106,15 @@ TEST_F(Options, RaiseTheCodeLengthToItsLimitAndNeverLowerIt) {
     struct Row {
         std::int16_t sampleSize;
         std::int16_t length;
-        std::int16_t limit;
         std::int16_t shown;
     };
     // 3 is the position of the bar before the opening, which a new limit may push.
-    const Row rows[] = {{3, 0, 1, 1}, {20, 3, 2, 3}, {20, 1, 2, 2}, {1000, 3, 4, 4}, {32767, 8, 6, 8}};
+    const Row rows[] = {{3, 0, 1}, {20, 3, 3}, {20, 1, 2}, {1000, 3, 4}, {32767, 8, 8}};
     for (const Row& row : rows) {
         SCOPED_TRACE(std::to_string(row.sampleSize) + " subjects, length " + std::to_string(row.length));
         settings.SampleSize = row.sampleSize;
         settings.CodeLength = row.length;
         Open([&](QDialog& window) {
-            EXPECT_EQ(Find<QScrollBar>(window, "LenHsb").minimum(), row.limit);
             EXPECT_EQ(TextOf(window, "LenLbl"), std::to_string(row.shown));
             EXPECT_EQ(settings.CodeLength, row.shown);
         });
@@ -136,10 +122,19 @@ TEST_F(Options, RaiseTheCodeLengthToItsLimitAndNeverLowerIt) {
     }
 }
 
-TEST_F(Options, TakeTheLevelAsItIsShown) {
+TEST_F(Options, ShowLoadedValuesOutOfRangeAsTheNearestAndKeepThemAtCancel) {
+    settings.CodeAlphaNum = 9;
+    settings.CellSpacing = -5;
+    settings.Columns = 11;
     settings.SigLevel = std::nextafter(0.05F, 1.0F);
-    Open([](QDialog& window) { EXPECT_EQ(TextOf(window, "txtLevel"), "0.05"); });
-    EXPECT_EQ(settings.SigLevel, 0.05F);
+    Open([](QDialog& window) {
+        EXPECT_TRUE(Find<QRadioButton>(window, "AlphaNumOpt_2").isChecked());
+        EXPECT_EQ(TextOf(window, "lblCellSp"), "0");
+        EXPECT_EQ(TextOf(window, "ColLbl"), "10");
+        EXPECT_EQ(TextOf(window, "txtLevel"), "0.05");
+    });
+    EXPECT_EQ(settings.CodeAlphaNum, 9);
+    EXPECT_EQ(settings.SigLevel, 0.05F) << "the level alone is taken as it is shown";
 }
 
 TEST_F(Options, GoBackAtCancelEscapeAndTheCloseOfTheFrame) {
@@ -183,7 +178,7 @@ TEST_F(Options, AreTakenByOKUnderTheBusyPointer) {
     EXPECT_TRUE(desktop.pointer.Busy);
     EXPECT_GT(results.BlockSizes.size(), 1U);
     Open([](QDialog& window) {
-        EXPECT_TRUE(Find<QAbstractButton>(window, "chkPerformRuns").isChecked());
+        EXPECT_TRUE(Find<QCheckBox>(window, "chkPerformRuns").isChecked());
         Click(window, "cmdOK");
     });
     ExpectOptions(settings, expected); // as they were shown again
@@ -240,13 +235,12 @@ TEST_F(Options, StayOpenAfterARefusalWithTheFocusOnTheFieldIfItIsInSight) {
         BlockOptions option;
         std::string text; ///< of the field that is refused
         int tab;
-        int tabThen;
         std::string focused;
     };
-    const Row rows[] = {{EqualSize, "abc", BlocksTab, BlocksTab, "EqBlockSizeTxt"},
-                        {EqualSize, "", CodeTab, CodeTab, "cmdOK"},
-                        {RandomSizesOf, "x", BlocksTab, BlocksTab, "UnEqBlockSizeTxt"},
-                        {OnlyOneBlock, "0.31", BlocksTab, StatisticsTab, "txtLevel"}};
+    const Row rows[] = {{EqualSize, "abc", BlocksTab, "EqBlockSizeTxt"},
+                        {EqualSize, "", CodeTab, "cmdOK"},
+                        {RandomSizesOf, "x", BlocksTab, "UnEqBlockSizeTxt"},
+                        {OnlyOneBlock, "0.31", BlocksTab, "txtLevel"}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.focused);
         settings.prEqBlockSize = settings.prUnEqBlockSize = row.text;
@@ -257,9 +251,8 @@ TEST_F(Options, StayOpenAfterARefusalWithTheFocusOnTheFieldIfItIsInSight) {
             SelectTab(window, row.tab);
             Click(window, "cmdOK");
             EXPECT_NE(Message(), "");
-            EXPECT_TRUE(window.isVisible());
-            EXPECT_EQ(SelectedTab(window), row.tabThen);
             EXPECT_EQ(Focused(window), row.focused);
+            EXPECT_TRUE(Find(window, row.focused).isVisible());
             EXPECT_EQ(SelectedText(window), row.text);
         });
     }
@@ -288,16 +281,6 @@ TEST_F(Options, TakeEnterAsOKOrAsThePressOfTheFocusedButton) {
     EXPECT_EQ(settings.SelectedCmd, ClosedByCancel);
     Open([](QDialog& window) { PressOn(window, "BlkOpt_0", Qt::Key_Return); });
     EXPECT_EQ(settings.SelectedCmd, ClosedByOK);
-}
-
-TEST_F(Options, ShowALoadedValueOutOfRangeAsTheNearestAndKeepItAtCancel) {
-    settings.CodeAlphaNum = 9;
-    settings.CellSpacing = -5;
-    Open([](QDialog& window) {
-        EXPECT_TRUE(Find<QAbstractButton>(window, "AlphaNumOpt_2").isChecked());
-        EXPECT_EQ(TextOf(window, "lblCellSp"), "0");
-    });
-    EXPECT_EQ(settings.CodeAlphaNum, 9);
 }
 
 } // namespace

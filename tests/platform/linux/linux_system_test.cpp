@@ -39,8 +39,8 @@ TEST(LinuxRegistry, HasThePathOfTheFirstSystemInformationProgram) {
     const SetVariable searched("PATH", folder.Path());
     LinuxRegistry registry;
     RegistryKey key = 0;
-    const std::string path = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
-    EXPECT_EQ(registry.RegOpenKeyExA(HKEY_LOCAL_MACHINE_ROOT, path, 0, REGISTRY_ALL_ACCESS, key), 0);
+    registry.RegOpenKeyExA(HKEY_LOCAL_MACHINE_ROOT, R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)", 0,
+                           REGISTRY_ALL_ACCESS, key);
     std::string buffer(1024, '\0');
     std::uint32_t type = 0;
     std::uint32_t size = 1024;
