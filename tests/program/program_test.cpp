@@ -94,8 +94,6 @@ TEST_P(SignalTest, ClosesTheWindowsTheRegularWay) {
     desktop.Signal(row.Signal);
     EXPECT_EQ(desktop.AwaitEnd(), 0);
     EXPECT_FALSE(HasTemporaryList());
-    if (settings.SampleSize.empty())
-        settings.SampleSize = "0";
     EXPECT_EQ(ReadFile(user.SavedSettings()), BytesOf(settings));
 }
 
@@ -111,7 +109,7 @@ const SignalRow Signals[] = {
          user.Generate();
          desktop.Await(SaveListTitle);
      }},
-    {"InAMessage", SIGTERM, "", 0,
+    {"InAMessage", SIGTERM, "0", 0,
      [](Desktop& desktop, User& user) {
          user.AwaitMain();
          desktop.Press({"Return"});

@@ -9,38 +9,29 @@
 namespace orvane {
 namespace {
 
-class Ending : public ModalWindowsTest {
-  protected:
+struct Ending : ModalWindowsTest {
     Ending() { window.show(); }
-
-    /// What the desktop's session manager makes the toolkit tell when the session ends.
-    static void EndSession() {
-        QObject manager; // the handler does not ask it
-        void* arguments[] = {nullptr, &manager};
-        const int told = QMetaMethod::fromSignal(&QGuiApplication::commitDataRequest).methodIndex();
-        QMetaObject::metacall(qApp, QMetaObject::InvokeMetaMethod, told, arguments);
-    }
-    [[nodiscard]] bool ClosesSoon() const {
-        return QTest::qWaitFor([this] { return !window.isVisible(); });
-    }
-
     QWidget window;
 };
 
-TEST_F(Ending, BeginsAtTheEndOfTheSession) {
+TEST_F(Ending, ClosesTheWindowsAtOnceWhenTheSessionEnds) {
     EXPECT_FALSE(ending.IsEnding());
-    EndSession();
+    // What the desktop's session manager makes the toolkit tell. The handler does not ask the manager.
+    QObject manager;
+    void* arguments[] = {nullptr, &manager};
+    const int told = QMetaMethod::fromSignal(&QGuiApplication::commitDataRequest).methodIndex();
+    QMetaObject::metacall(qApp, QMetaObject::InvokeMetaMethod, told, arguments);
     EXPECT_TRUE(ending.IsEnding());
     EXPECT_FALSE(window.isVisible());
 }
 
-TEST_F(Ending, ClosesAnOpenMenu) {
+TEST_F(Ending, ClosesAnOpenMenuFirst) {
     QMenu menu;
     menu.addAction("item");
     menu.popup(QPoint());
     ending.Begin();
     EXPECT_FALSE(menu.isVisible());
-    EXPECT_TRUE(ClosesSoon());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window.isVisible(); }));
 }
 
 } // namespace
