@@ -7,12 +7,10 @@
 
 namespace orvane {
 
-/// The one application of the test program, made at the first call. It has no screen unless the environment
-/// names one, and shows the toolkit's own prompts, which tests can fill in.
+/// The one application of the test program, made at the first call. It shows the toolkit's own prompts, which
+/// tests can fill in.
 inline QApplication& TestApplication() {
     static QApplication* const application = [] {
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
         static std::string name = "tests";

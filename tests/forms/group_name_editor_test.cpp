@@ -22,24 +22,18 @@ struct GroupNames : MainFormTest {
 };
 
 TEST_F(GroupNames, FollowTheBarThroughItsKeys) {
-    struct Row {
-        const char* what;
-        Qt::Key key;
-        std::size_t groups;
-        std::string lastName;
-    };
-    const Row rows[] = {
-        {"Left at the start", Qt::Key_Left, 2, ""},    {"Right", Qt::Key_Right, 3, "Group 3"},
-        {"Page Down", Qt::Key_PageDown, 4, "Group 4"}, {"Left", Qt::Key_Left, 3, "Group 3"},
-        {"End", Qt::Key_End, 16, "Group 16"},          {"Right at the end", Qt::Key_Right, 16, "Group 16"}};
     OpenWithGroups({"", ""});
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        QTest::keyClick(&Bar(), row.key);
-        EXPECT_EQ(Names().size(), row.groups);
-        EXPECT_EQ(Names().back(), row.lastName);
-        EXPECT_EQ(TextOf(*form, "nogLbl"), std::to_string(row.groups));
-    }
+    const auto lastNameAfter = [this](Qt::Key key) {
+        QTest::keyClick(&Bar(), key);
+        EXPECT_EQ(TextOf(*form, "nogLbl"), std::to_string(Names().size()));
+        return Names().back();
+    };
+    EXPECT_EQ(lastNameAfter(Qt::Key_Left), "") << "at the start";
+    EXPECT_EQ(lastNameAfter(Qt::Key_Right), "Group 3");
+    EXPECT_EQ(lastNameAfter(Qt::Key_PageDown), "Group 4");
+    EXPECT_EQ(lastNameAfter(Qt::Key_Left), "Group 3");
+    EXPECT_EQ(lastNameAfter(Qt::Key_End), "Group 16");
+    EXPECT_EQ(lastNameAfter(Qt::Key_Right), "Group 16") << "at the end";
     for (std::int16_t group = 1; group <= 16; ++group)
         EXPECT_EQ(Grid().TextMatrix(group, 0), std::to_string(group));
 }
@@ -79,34 +73,28 @@ TEST_F(GroupNames, AreTypedOverAfterAClickInTheirRowOrInTheTopRow) {
 }
 
 TEST_F(GroupNames, AreReachedWithTheKeysOfTheGridWhichKeepsTheFocus) {
-    struct Row {
-        const char* what;
-        Qt::Key key;
-        int row;
-    };
     OpenWithGroups({"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15", "16"});
     Grid().setFocus();
     const int page = Grid().viewport()->height() / Grid().rowHeight(1);
-    const Row rows[] = {{"Home", Qt::Key_Home, 1},
-                        {"Up on the first row", Qt::Key_Up, 1},
-                        {"Down", Qt::Key_Down, 2},
-                        {"Right", Qt::Key_Right, 2},
-                        {"End", Qt::Key_End, 16},
-                        {"Down on the last row", Qt::Key_Down, 16},
-                        {"Page Down on the last row", Qt::Key_PageDown, 16},
-                        {"Page Up", Qt::Key_PageUp, 16 - page},
-                        {"Page Down", Qt::Key_PageDown, 16},
-                        {"Up", Qt::Key_Up, 15},
-                        {"a letter", Qt::Key_A, 15}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        Press(row.key);
-        EXPECT_EQ(Grid().Row(), row.row);
-        EXPECT_EQ(Grid().currentRow(), row.row) << "for assistive programs";
-        EXPECT_EQ(TempTxt().Text(), std::to_string(row.row)) << "the name in the editor";
+    const auto rowAfter = [this](Qt::Key key) {
+        Press(key);
+        const std::int16_t row = Grid().Row();
+        EXPECT_EQ(Grid().currentRow(), row) << "for assistive programs";
+        EXPECT_EQ(TempTxt().Text(), std::to_string(row)) << "the name in the editor";
         EXPECT_EQ(Focused(*form), "GroupNameGrid");
-        EXPECT_TRUE(Grid().viewport()->rect().contains(Cell(row.row, 1).center())) << "not in sight";
-    }
+        EXPECT_TRUE(Grid().viewport()->rect().contains(Cell(row, 1).center())) << "not in sight: " << row;
+        return row;
+    };
+    EXPECT_EQ(rowAfter(Qt::Key_Home), 1);
+    EXPECT_EQ(rowAfter(Qt::Key_Up), 1) << "on the first row";
+    EXPECT_EQ(rowAfter(Qt::Key_Down), 2);
+    EXPECT_EQ(rowAfter(Qt::Key_Right), 2);
+    EXPECT_EQ(rowAfter(Qt::Key_End), 16);
+    EXPECT_EQ(rowAfter(Qt::Key_Down), 16) << "on the last row";
+    EXPECT_EQ(rowAfter(Qt::Key_PageUp), 16 - page);
+    EXPECT_EQ(rowAfter(Qt::Key_PageDown), 16);
+    EXPECT_EQ(rowAfter(Qt::Key_Up), 15);
+    EXPECT_EQ(rowAfter(Qt::Key_A), 15);
 }
 
 TEST_F(GroupNames, AreTypedWhileTheNumberOfAStartWithoutSettingsIsCurrent) {
