@@ -32,11 +32,6 @@ struct ListedSource : UniformSource, Faults {
             ADD_FAILURE() << value;
         ReseededAt.push_back(Consumed);
     }
-    /// Starts anew with other values.
-    void List(std::vector<float> values) {
-        Values = std::move(values);
-        Consumed = 0;
-    }
 
     static constexpr float Noon = 43200.5F;
     std::vector<float> Values;

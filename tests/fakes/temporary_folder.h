@@ -4,14 +4,13 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <stdexcept>
 
 namespace orvane::fakes {
 
 struct TemporaryFolder {
     TemporaryFolder() : Root(std::filesystem::temp_directory_path() / "orvane-XXXXXX") {
         if (::mkdtemp(Root.data()) == nullptr)
-            throw std::runtime_error("cannot make a temporary folder");
+            std::abort();
     }
     ~TemporaryFolder() {
         std::error_code ignored;
@@ -23,7 +22,6 @@ struct TemporaryFolder {
 
     // NOLINTNEXTLINE(modernize-use-nodiscard): often for the file alone
     std::string Put(const std::string& name, std::string_view content, bool executable = false) const {
-        std::filesystem::create_directories(std::filesystem::path(Path(name)).parent_path());
         std::ofstream(Path(name), std::ios::binary) << content;
         if (executable)
             std::filesystem::permissions(Path(name), std::filesystem::perms::owner_all);

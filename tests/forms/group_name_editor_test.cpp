@@ -22,16 +22,19 @@ struct GroupNames : MainFormTest {
 };
 
 TEST_F(GroupNames, FollowTheBarThroughItsKeys) {
-    OpenWithGroups({"", ""});
+    OpenWithWhatIsSaved();
+    EXPECT_EQ(Message(), ErrorReport) << "nothing was saved";
     const auto lastNameAfter = [this](Qt::Key key) {
         QTest::keyClick(&Bar(), key);
         EXPECT_EQ(TextOf(*form, "nogLbl"), std::to_string(Names().size()));
+        EXPECT_EQ(Names().front(), "Group 1");
         return Names().back();
     };
-    EXPECT_EQ(lastNameAfter(Qt::Key_Left), "") << "at the start";
     EXPECT_EQ(lastNameAfter(Qt::Key_Right), "Group 3");
     EXPECT_EQ(lastNameAfter(Qt::Key_PageDown), "Group 4");
     EXPECT_EQ(lastNameAfter(Qt::Key_Left), "Group 3");
+    EXPECT_EQ(lastNameAfter(Qt::Key_Home), "Group 2");
+    EXPECT_EQ(lastNameAfter(Qt::Key_Left), "Group 2") << "at the start";
     EXPECT_EQ(lastNameAfter(Qt::Key_End), "Group 16");
     EXPECT_EQ(lastNameAfter(Qt::Key_Right), "Group 16") << "at the end";
     for (std::int16_t group = 1; group <= 16; ++group)

@@ -140,10 +140,6 @@ class MainFormTest : public WindowTest {
     void OpenWithWhatIsSaved() {
         form = MakeMainForm(desktop.platform, dialog, outputDialog);
         QCoreApplication::processEvents();
-        BringToFront();
-    }
-    /// As a desktop does at the opening and when a window in front has closed.
-    void BringToFront() {
         form->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
     }
@@ -174,12 +170,6 @@ class MainFormTest : public WindowTest {
     std::string Saved() {
         EXPECT_EQ(ChooseFile("mnuFile_1", "/save.stg"), "Settings were saved successfully!");
         return desktop.files.Contents["/save.stg"];
-    }
-    /// Runs a command and, in the options window that it opens, a script.
-    void WithOptions(const std::function<void()>& command, const std::function<void(QDialog&)>& script) {
-        BringToFront();
-        WhileOpen(command, script);
-        BringToFront();
     }
 
     const std::string SavedPath = "/program/saved.stg";
