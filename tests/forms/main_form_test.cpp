@@ -4,6 +4,7 @@
 
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 
 namespace orvane {
 namespace {
@@ -27,8 +28,9 @@ struct MainWindow : MainFormTest {
         .Groups = {"Verum", "Placebo"}, .SampleSize = "12", .OutputOption = 2};
 };
 
-TEST_F(MainWindow, ClipsNoTextAndNamesItsControls) {
+TEST_F(MainWindow, OpensInTheMiddleOfTheScreenClipsNoTextAndNamesItsControls) {
     Open(ToClipboardSettings);
+    EXPECT_EQ(form->frameGeometry().center(), form->screen()->availableGeometry().center());
     ExpectNothingClippedOrUnnamed(*form);
     EXPECT_EQ(TabStops(*form),
               (Texts{"nogHsb", "SampSizeTxt", "GroupNameGrid", "TempTxt", "SaveExitChk", "cmdGenerate"}));
