@@ -32,6 +32,7 @@ TEST_F(MainWindow, OpensInTheMiddleOfTheScreenClipsNoTextAndNamesItsControls) {
     Open(ToClipboardSettings);
     EXPECT_EQ(form->frameGeometry().center(), form->screen()->availableGeometry().center());
     ExpectNothingClippedOrUnnamed(*form);
+    EXPECT_TRUE(form->centralWidget()->rect().contains(Find(*form, "cmdGenerate").geometry()));
     EXPECT_EQ(TabStops(*form),
               (Texts{"nogHsb", "SampSizeTxt", "GroupNameGrid", "TempTxt", "SaveExitChk", "cmdGenerate"}));
 }
