@@ -60,7 +60,7 @@ void Shuffle(UniformSource& random, std::span<std::string> names, std::int64_t e
 
 std::vector<std::string> RandomCodes(std::size_t count, std::int16_t length, UniformSource& random,
                                      TimeOfDay& clock) {
-    const AlphaNumTable characters = BuildAlphaNumChar();
+    const std::string_view characters = AlphaNumChar;
     std::vector<std::string> codes;
     while (codes.size() < count) {
         random.UniformReseed(clock.SecondsSinceMidnight());
