@@ -1,7 +1,7 @@
-// Settings files, loaded and saved through the main window.
+// Settings files, loaded and saved through the main window and at the end of the program.
 #include "settings/settings_file.h"
 
-#include "windows.h"
+#include "forms/windows.h"
 
 namespace orvane {
 namespace {
@@ -118,6 +118,36 @@ TEST_F(Settings, ThatNoLineCanHoldAreReplacedAtTheEndOfTheProgram) {
     EXPECT_NE(desktop.messages.Take().find("were saved as \"?\": \"\u2265\" (U+2265), a line end\r\n"),
               std::string::npos);
     EXPECT_EQ(LinesOf(desktop.files.Contents[SavedPath])[3], "a??b");
+}
+
+TEST_F(Settings, OfTheStartAreReplacedAtTheEndOfTheProgram) {
+    desktop.files.Contents[SavedPath] = "older";
+    desktop.files.Log.clear();
+    form->close();
+    EXPECT_EQ(desktop.files.Log, (Texts{"Delete " + SavedPath, "OpenForOutput " + SavedPath}));
+    EXPECT_EQ(desktop.files.Contents[SavedPath], BytesOf(Before));
+}
+
+TEST_F(Settings, KeepAtTheEndOfTheProgramWhatTheDiskTook) {
+    desktop.files.Fails = {"Write"};
+    form->close();
+    EXPECT_EQ(desktop.messages.Take(), Report("cannot Write", 28, "a fake"));
+    const std::string whole = BytesOf(Before);
+    EXPECT_EQ(desktop.files.Contents[SavedPath], whole.substr(0, whole.size() / 2));
+    EXPECT_EQ(desktop.files.Open, 0);
+}
+
+TEST_F(Settings, AreReportedOnceWhenTheFolderRefusesEverything) {
+    desktop.files.Fails = {"Delete", "OpenForOutput"};
+    form->close();
+    EXPECT_EQ(desktop.messages.Take(), Report("cannot OpenForOutput", 5, "a fake"));
+}
+
+TEST_F(Settings, ThatCouldNotBeReadAgainLeaveTheOldFile) {
+    NameGroup(1, std::string(SettingsFile::LargestFile, 'x'));
+    form->close();
+    EXPECT_TRUE(desktop.messages.Take().starts_with("Error Description: The settings would fill 2097"));
+    EXPECT_EQ(desktop.files.Contents[SavedPath], BytesOf(Before));
 }
 
 TEST_F(Settings, ReportAFailureOfTheirFileOnce) {
