@@ -219,7 +219,8 @@ TEST_F(Options, StepToTheNextTabAtCtrlTabFromEveryControl) {
             SCOPED_TRACE(control);
             Find(window, control).setFocus();
             Press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
-            EXPECT_EQ(SelectedTab(window), tab) << "after Ctrl+Shift+Tab";
+            Press(Qt::Key_A, Qt::ControlModifier);
+            EXPECT_EQ(SelectedTab(window), tab) << "after Ctrl+Shift+Tab and Ctrl+A";
             Find(window, control).setFocus();
             Press(Qt::Key_Tab, Qt::ControlModifier);
             tab = tab == StatisticsTab ? BlocksTab : tab + 1;
@@ -233,14 +234,14 @@ TEST_F(Options, StepToTheNextTabAtCtrlTabFromEveryControl) {
 TEST_F(Options, StayOpenAfterARefusalWithTheFocusOnTheFieldIfItIsInSight) {
     struct Row {
         BlockOptions option;
-        std::string text; ///< of the field that is refused
         int tab;
+        std::string text; ///< of the field that is refused
         std::string focused;
     };
-    const Row rows[] = {{EqualSize, "abc", BlocksTab, "EqBlockSizeTxt"},
-                        {EqualSize, "", CodeTab, "cmdOK"},
-                        {RandomSizesOf, "x", BlocksTab, "UnEqBlockSizeTxt"},
-                        {OnlyOneBlock, "0.31", BlocksTab, "txtLevel"}};
+    const Row rows[] = {{EqualSize, BlocksTab, "abc", "EqBlockSizeTxt"},
+                        {EqualSize, CodeTab, "", "cmdOK"},
+                        {RandomSizesOf, BlocksTab, "x", "UnEqBlockSizeTxt"},
+                        {OnlyOneBlock, BlocksTab, "0.31", "txtLevel"}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.focused);
         settings.prEqBlockSize = settings.prUnEqBlockSize = row.text;

@@ -150,8 +150,8 @@ class MainFormTest : public WindowTest {
     /// The names in the grid, of group 1 first.
     Texts Names() {
         Texts names;
-        for (std::int16_t group = 1; group < Grid().rowCount(); ++group)
-            names.push_back(Grid().TextMatrix(group, 1));
+        for (int group = 1; group < Grid().rowCount(); ++group)
+            names.push_back(Grid().TextMatrix(static_cast<std::int16_t>(group), 1));
         return names;
     }
     void Choose(const std::string& item) { Find<QAction>(*form, item).trigger(); }

@@ -79,17 +79,17 @@ TEST(OptionValidation, RefusesABlockThatNoArrangementBringsThroughTheRunsTest) {
     const Texts oneOfFour = {"a", "b", "b", "b"};
     const struct {
         int sampleSize; ///< one block
-        Texts names;
         float level;
+        Texts names;
         std::string refusal;
     } rows[] = {
-        {1, {"a", "b"}, 0.05F, CannotPass(1, "0.05")},
-        {1, {"a", "a"}, 0.05F, CannotPass(1, "0.05")}, // other names would not help
-        {3, {"a", "b"}, 0.3F, ""},
-        {14654, {"a", "b"}, 0.3F, ""},
-        {4, oneOfFour, 0.24F, ""},
-        {4, oneOfFour, 0.25F, CannotPass(4, "0.25")},
-        {20, {"a", "a", "a"}, 0.05F, alike},
+        {1, 0.05F, {"a", "b"}, CannotPass(1, "0.05")},
+        {1, 0.05F, {"a", "a"}, CannotPass(1, "0.05")}, // other names would not help
+        {3, 0.3F, {"a", "b"}, ""},
+        {14654, 0.3F, {"a", "b"}, ""},
+        {4, 0.24F, oneOfFour, ""},
+        {4, 0.25F, oneOfFour, CannotPass(4, "0.25")},
+        {20, 0.05F, {"a", "a", "a"}, alike},
     };
     for (const auto& row : rows) {
         OptionsBench bench(static_cast<int>(row.names.size()), row.sampleSize);

@@ -71,8 +71,8 @@ TEST_F(ProgramTest, DropsClicksAndKeysWhileItIsBusyButNotARequestToClose) {
 /// A signal while the user does something.
 struct SignalRow {
     const char* Name;
-    int Signal;
     const char* SampleSize;
+    int Signal;
     int OutputOption;
     void (*Do)(Desktop& desktop, User& user);
 };
@@ -98,24 +98,24 @@ TEST_P(SignalTest, ClosesTheWindowsTheRegularWay) {
 }
 
 const SignalRow Signals[] = {
-    {"InAList", SIGTERM, "8", 1,
+    {"InAList", "8", SIGTERM, 1,
      [](Desktop& desktop, User& user) {
          user.Generate();
          desktop.Await(OutputTitle);
      }},
-    {"InTheOptions", SIGHUP, "8", 0, [](Desktop& /*desktop*/, User& user) { user.OpenOptions(); }},
-    {"InAPrompt", SIGINT, "8", 0,
+    {"InTheOptions", "8", SIGHUP, 0, [](Desktop& /*desktop*/, User& user) { user.OpenOptions(); }},
+    {"InAPrompt", "8", SIGINT, 0,
      [](Desktop& desktop, User& user) {
          user.Generate();
          desktop.Await(SaveListTitle);
      }},
-    {"InAMessage", SIGTERM, "0", 0,
+    {"InAMessage", "0", SIGTERM, 0,
      [](Desktop& desktop, User& user) {
          user.AwaitMain();
          desktop.Press({"Return"});
          user.AwaitMessage();
      }},
-    {"DuringAShuffle", SIGTERM, BusySampleSize, 1,
+    {"DuringAShuffle", BusySampleSize, SIGTERM, 1,
      [](Desktop& /*desktop*/, User& user) { user.Generate(); }}};
 
 INSTANTIATE_TEST_SUITE_P(Signals, SignalTest, testing::ValuesIn(Signals),

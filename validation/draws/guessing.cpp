@@ -73,6 +73,7 @@ void CheckGuessing(Record& record) {
         check.Compare("Share of right guesses in a block of 12, by the published formula",
                       decimals((6 + 2048.0 / 924 - 0.5) / 12), decimals(RightShare({12}, 2)));
         std::vector<Row> rows;
+        rows.reserve(Plans.size());
         for (const auto& [option, groups, sizes] : Plans)
             rows.push_back({option, std::to_string(groups), decimals(1.0 / groups),
                             decimals(RightShare(sizes, groups))});
