@@ -12,7 +12,6 @@ inline constexpr std::int32_t LargestList = 32767;
 /// The largest N whose 10 N N exchanges can be counted in 32 bits.
 inline constexpr std::int32_t LargestBlock = 14654;
 inline constexpr std::int16_t LongestCode = 10;
-inline constexpr std::int16_t MostColumns = 10;
 
 // The values of the following constants stand in settings files: never change them.
 enum ListDestinations : std::int32_t { ToFile = 0, ToWindow = 1, ToClipboard = 2 };

@@ -168,7 +168,7 @@ void FlexGridWidget::RequireCell(std::int16_t row, std::int16_t col) const {
 }
 
 int FlexGridWidget::RowsOnAPage() const {
-    return std::max(1, viewport()->height() / verticalHeader()->defaultSectionSize());
+    return viewport()->height() / verticalHeader()->defaultSectionSize();
 }
 
 void FlexGridWidget::keyPressEvent(QKeyEvent* event) {

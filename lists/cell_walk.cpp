@@ -38,8 +38,7 @@ std::int16_t GetMaxCol(const ListSettings& settings) {
 }
 
 std::int16_t GetMaxEq(std::int16_t columns) {
-    static constexpr std::array<std::int16_t, MostColumns> widths = {20,  35,  55,  75,  95,
-                                                                     110, 130, 137, 142, 148};
+    static constexpr auto widths = std::to_array<std::int16_t>({20, 35, 55, 75, 95, 110, 130, 137, 142, 148});
     return widths.at(static_cast<std::size_t>(columns - 1));
 }
 

@@ -53,6 +53,7 @@ TEST_F(GroupNames, BecomeDefaultsWhereTheyAreEmptyWhenTheCountChanges) {
 
 TEST_F(GroupNames, AreNotChangedByTypingRightAfterAChangeOfTheCount) {
     OpenWithGroups({"Verum", "Placebo"});
+    ClickCell(2, 0);
     Bar().setValue(3);
     TempTxt().TakeFocus();
     EXPECT_EQ(TempTxt().Text(), "");
@@ -109,6 +110,7 @@ TEST_F(GroupNames, AreTypedWhileTheNumberOfAStartWithoutSettingsIsCurrent) {
     Type("Drug");
     EXPECT_EQ(Names(), (Texts{"Drug", ""}));
     EXPECT_EQ(Grid().TextMatrix(1, 0), "1");
+    EXPECT_EQ(Grid().TextMatrix(2, 0), "2");
 }
 
 } // namespace
