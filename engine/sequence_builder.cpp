@@ -19,9 +19,11 @@ constexpr int MostAttempts = 2000;
 /// first row, position 2 below it.
 std::vector<std::string> LayOut(std::vector<std::string> positions, std::int16_t columns) {
     const auto filled = static_cast<std::int16_t>(positions.size());
-    const auto rows = static_cast<std::int16_t>(RaiseToLimit(filled, columns) / columns);
+    const std::int16_t cells = RaiseToLimit(filled, columns);
+    const auto rows = static_cast<std::int16_t>(cells / columns);
 
     std::vector<std::string> table;
+    table.reserve(static_cast<std::size_t>(cells));
     for (std::int16_t row = 1; row <= rows; ++row)
         for (std::int16_t column = 0; column < columns; ++column) {
             const std::int16_t position = Add16(Multiply16(column, rows), row);

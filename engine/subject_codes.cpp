@@ -76,7 +76,9 @@ void CreateCodeArr(const ListSettings& settings, ListResults& results, UniformSo
         throw Failure(*refusal, failure_number::TooLarge, "CreateCodeArr");
 
     std::vector<std::string> codes;
+    codes.reserve(static_cast<std::size_t>(listSize));
     std::unordered_set<std::string> taken;
+    taken.reserve(static_cast<std::size_t>(listSize));
     for (std::int16_t i = 0; i < listSize; ++i) {
         if (settings.CodeSeqRandom == Random)
             codes.push_back(NewRandomCode(settings, taken, random, clock));

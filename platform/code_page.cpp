@@ -77,6 +77,7 @@ CodePage::CodePage(std::string name, const std::array<char32_t, 256>& characters
 
 std::string CodePage::Encode(std::string_view text, Unmappable unmappable) const {
     std::string bytes;
+    bytes.reserve(text.size());
     std::size_t index = 0;
     for (;;) {
         // Most text is ASCII, which is the same in every code page: copied without a look-up.
@@ -113,6 +114,7 @@ std::vector<std::string> CodePage::CharactersNotHeld(std::string_view text) cons
 
 std::string CodePage::Decode(std::string_view bytes) const {
     std::string text;
+    text.reserve(bytes.size());
     for (const char byte : bytes)
         text += texts_[static_cast<unsigned char>(byte)];
     return text;
