@@ -29,7 +29,7 @@ QString Paragraph(const std::string& text) {
 QString Table(const Exhibit& table) {
     const std::size_t columns = table.Head.size();
     const bool isWide = columns > 8 || table.Head.back() == "SHA-256";
-    const QString size = columns > 20 ? "5.5pt" : isWide ? "6pt" : "8pt";
+    const QString size = columns > 20 ? "5.5pt" : isWide ? "6pt" : "9pt";
     const auto row = [&](const Row& cells, const QString& tag) {
         QString html = "<tr>";
         for (const std::string& cell : cells)
@@ -44,7 +44,7 @@ QString Table(const Exhibit& table) {
     QString head = row(table.Head, "th");
     // The caption takes part in the layout of the columns, so that these need their widths in per cent.
     constexpr std::pair<const char*, int> widths[] = {
-        {"SHA-256<", 58}, {"Hypothesis<", 36}, {"What it shows<", 58}, {"Value<", 58}, {"codes<", 14}};
+        {"SHA-256<", 58}, {"Hypothesis<", 30}, {"What it shows<", 58}, {"Value<", 58}, {"codes<", 14}};
     for (const auto& [name, width] : widths)
         head.replace(QString(">") + name, QString(" width='%1%'>").arg(width) + name);
     html += head + "</thead>\n";
