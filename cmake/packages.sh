@@ -38,7 +38,7 @@ build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev libglib2.0-dev)
 run_packages=(shared-mime-info fonts-dejavu-core qt6-gtk-platformtheme)
 wayland_packages=(qt6-wayland)
 test_packages=(libgtest-dev locales tidy)
-display_packages=(xvfb xauth openbox xdotool xclip imagemagick dbus-daemon at-spi2-core libatspi2.0-dev)
+display_packages=(xvfb xauth openbox xdotool xclip imagemagick dbus-daemon at-spi2-core libatspi2.0-dev libxdo-dev)
 # The tour takes pictures of web pages in a browser.
 tour_packages=(chromium)
 # For the archive, which contains these plugins of Qt.

@@ -1,22 +1,21 @@
 #include "tools/driving/desktop.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <thread>
 #include <utility>
+
+extern "C" {
+#include <X11/Xutil.h>
+#include <xdo.h>
+}
 
 namespace orvane::driving {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-/// The text without its line end.
-std::string Line(std::string text) {
-    if (text.ends_with('\n'))
-        text.pop_back();
-    return text;
-}
 
 fs::path FolderOfDisplay() {
     const char* folder = std::getenv("ORVANE_DISPLAY_FOLDER");
@@ -56,7 +55,13 @@ void WriteFile(const fs::path& path, const std::string& bytes) {
         throw Fault("cannot write " + path.string());
 }
 
-Desktop::Desktop() : folder_(FolderOfDisplay()) {}
+Desktop::Desktop() : folder_(FolderOfDisplay()), input_(xdo_new(nullptr), xdo_free) {
+    if (!input_)
+        throw Fault("the display does not answer");
+    input_->quiet = 1;
+    // A window may close while it is asked for its title. That would end this process.
+    XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+}
 
 Desktop::~Desktop() {
     if (!Running())
@@ -81,27 +86,36 @@ int Desktop::AwaitEnd() {
     const auto program = program_;
     AwaitThat("the end of the program", [&] { return !Running(); });
     program_.reset();
+    AwaitThat("the end of its windows", [&] { return !Active(); });
+    awaited_.clear(); // the next program may get the same numbers for its windows
     g_subprocess_wait(program.get(), nullptr, nullptr);
     return g_subprocess_get_if_exited(program.get()) != FALSE
                ? g_subprocess_get_exit_status(program.get())
                : 128 + g_subprocess_get_term_sig(program.get());
 }
 
-std::optional<Window> Desktop::Active() {
-    const auto id = TryRun({"xdotool", "getactivewindow"});
-    // The window may have closed in the meantime.
-    const auto title = id ? TryRun({"xdotool", "getwindowname", Line(*id)}) : std::nullopt;
-    if (!title)
+std::optional<Window> Desktop::Active() const {
+    static const Atom name = XInternAtom(input_->xdpy, "_NET_WM_NAME", False);
+    ::Window id = 0;
+    XTextProperty title{};
+    // A window that has just closed has no title any more.
+    if (xdo_get_active_window(input_.get(), &id) != XDO_SUCCESS ||
+        XGetTextProperty(input_->xdpy, id, &title, name) == 0)
         return std::nullopt;
-    return Window{Line(*id), Line(*title)};
+    const std::unique_ptr<unsigned char, decltype(&XFree)> text(title.value, XFree);
+    return Window{std::to_string(id), std::string(text.get(), text.get() + title.nitems)};
 }
 
 Window Desktop::Await(const std::string& title) {
     std::optional<Window> found;
     AwaitThat("the window \"" + title + "\"", [&] {
         found = Active();
-        return found && found->Title == title;
+        // The program drops what is pressed while it works. It answers a screen reader when it has done.
+        return found && found->Title == title &&
+               (found->Id == awaited_ || std::ranges::count(Titles(), title) > 0);
     });
+    if (std::exchange(awaited_, found->Id) != found->Id)
+        std::this_thread::sleep_for(Reaction);
     return *found;
 }
 
@@ -131,29 +145,21 @@ void Desktop::AwaitThat(const std::string& what, const std::function<bool()>& co
     }
 }
 
-std::string Desktop::Do(const Words& words) const {
-    if (program_ && !Running())
-        throw Fault("the program has ended\n" + Complaints());
-    return Run(words);
-}
-
 void Desktop::Press(const Words& keys) const {
-    Words words = {"xdotool", "key", "--delay", "15"};
-    words.insert(words.end(), keys.begin(), keys.end());
-    Do(words);
+    for (const std::string& key : keys)
+        xdo_send_keysequence_window(input_.get(), CURRENTWINDOW, key.c_str(), 15'000);
 }
 
 void Desktop::Type(const std::string& text) const {
-    Do({"xdotool", "type", "--delay", "4", "--", text});
+    xdo_enter_text_window(input_.get(), CURRENTWINDOW, text.c_str(), 4'000);
 }
 
 void Desktop::Point(const AtspiRect& place) const {
-    Do({"xdotool", "mousemove", std::to_string(place.x + place.width / 2),
-        std::to_string(place.y + place.height / 2)});
+    xdo_move_mouse(input_.get(), place.x + place.width / 2, place.y + place.height / 2, 0);
 }
 
 void Desktop::Click(int times) const {
-    Do({"xdotool", "click", "--repeat", std::to_string(times), "--delay", "60", "1"});
+    xdo_click_window_multiple(input_.get(), CURRENTWINDOW, 1, times, 60'000);
 }
 
 void Desktop::Picture(const Window& window, const fs::path& file) const {
@@ -173,30 +179,23 @@ void Desktop::Picture(const Window& window, const fs::path& file) const {
 }
 
 std::string Desktop::LastViewed() const {
-    const std::string starts = Line(ReadFile(folder_ / "viewed"));
+    std::string starts = ReadFile(folder_ / "viewed");
+    if (!starts.empty())
+        starts.pop_back(); // the end of its last line
     return starts.substr(starts.rfind('\n') + 1);
 }
 
-std::optional<std::string> Desktop::TryRun(Words words) {
+std::string Desktop::Run(Words words) {
     words.insert(words.begin(), {"timeout", "--foreground", "60"});
     const auto launcher = Launcher(G_SUBPROCESS_FLAGS_STDOUT_PIPE | G_SUBPROCESS_FLAGS_STDERR_SILENCE);
     const auto child = Spawn(launcher.get(), words);
     g_autoptr(GBytes) output = nullptr;
     g_subprocess_communicate(child.get(), nullptr, nullptr, &output, nullptr, nullptr);
-    std::string text;
-    if (output != nullptr) {
-        gsize size = 0;
-        const void* bytes = g_bytes_get_data(output, &size);
-        text.assign(static_cast<const char*>(bytes), size);
-    }
-    return g_subprocess_get_successful(child.get()) != FALSE ? std::optional(text) : std::nullopt;
-}
-
-std::string Desktop::Run(const Words& words) {
-    auto text = TryRun(words);
-    if (!text)
-        throw Fault(words.front() + " failed; its last word was " + words.back());
-    return *std::move(text);
+    if (g_subprocess_get_successful(child.get()) == FALSE)
+        throw Fault(words[3] + " failed; its last word was " + words.back());
+    gsize size = 0;
+    const auto* const bytes = static_cast<const char*>(g_bytes_get_data(output, &size));
+    return {bytes, size};
 }
 
 } // namespace orvane::driving

@@ -16,6 +16,8 @@
 
 #include <gio/gio.h>
 
+struct xdo;
+
 namespace orvane::driving {
 
 /// Something awaited did not happen, or a result is wrong.
@@ -23,7 +25,8 @@ struct Fault : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-constexpr std::chrono::milliseconds Glance{10}; ///< between two looks of a wait
+constexpr std::chrono::milliseconds Glance{10};   ///< between two looks of a wait
+constexpr std::chrono::milliseconds Reaction{20}; ///< from the sight of a new window to the next key
 
 using Words = std::vector<std::string>;
 /// Variables of a program's environment and their values.
@@ -82,7 +85,7 @@ class Desktop {
     int AwaitEnd();
 
     /// The active window.
-    [[nodiscard]] static std::optional<Window> Active();
+    [[nodiscard]] std::optional<Window> Active() const;
     [[nodiscard]] std::vector<std::string> Titles() const { return reader_.Titles(); }
     /// Waits until a window with exactly this title is active.
     Window Await(const std::string& title);
@@ -106,24 +109,22 @@ class Desktop {
     void Picture(const Window& window, const std::filesystem::path& file) const;
 
     /// The text that another program gets from the clipboard.
-    [[nodiscard]] std::string Pasted() const { return Do({"xclip", "-selection", "clipboard", "-out"}); }
+    [[nodiscard]] std::string Pasted() const { return Run({"xclip", "-selection", "clipboard", "-out"}); }
     /// The last start of a viewer: its name, "browser" or "reader", and its arguments, separated by tabs.
     [[nodiscard]] std::string LastViewed() const;
     /// What the program has written to standard output and standard error.
     [[nodiscard]] std::string Complaints() const { return ReadFile(Log()); }
 
-    /// The output of a command; nothing if its exit code is not 0 or it takes more than a minute.
-    [[nodiscard]] static std::optional<std::string> TryRun(Words words);
-    /// The output of a command. Throws Fault if the command fails.
-    static std::string Run(const Words& words);
+    /// The output of a command. Throws Fault if its exit code is not 0 or it takes more than a minute.
+    static std::string Run(Words words);
 
   private:
     [[nodiscard]] std::filesystem::path Log() const { return folder_ / "log"; }
-    /// The output of a command that uses the program. Throws Fault if the program has ended.
-    std::string Do(const Words& words) const; // NOLINT(modernize-use-nodiscard): often for its effect alone
 
     std::filesystem::path folder_; // first: throws without a display
     ScreenReader reader_;
+    std::shared_ptr<xdo> input_; ///< the keyboard and the mouse
+    std::string awaited_;        ///< the number of the last window that was awaited
     std::shared_ptr<GSubprocess> program_;
 };
 

@@ -149,7 +149,7 @@ void User::Answer(const Window& prompt, const std::string& path) {
             desktop_.Press({"Return"});
     };
     const auto taken = [&] {
-        const auto active = Desktop::Active();
+        const auto active = desktop_.Active();
         return active && active->Id != prompt.Id;
     };
     if (!Repeat(type, holds) || !Repeat(enter, taken))
